@@ -1,0 +1,18 @@
+#ifndef ZNCORE_ZNTYPES_H
+#define ZNCORE_ZNTYPES_H
+
+// Scalar types by size, used in all interfaces.
+
+#include <cstdint>
+
+using s8 = std::int8_t;
+using u8 = std::uint8_t;
+using s16 = std::int16_t;
+using u16 = std::uint16_t;
+using s32 = std::int32_t;
+using u32 = std::uint32_t;
+using uint32 = std::uint32_t;
+using s64 = std::int64_t;
+using u64 = std::uint64_t;
+
+#endif
