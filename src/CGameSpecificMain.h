@@ -1,0 +1,19 @@
+#ifndef SRC_CGAMESPECIFICMAIN_H
+#define SRC_CGAMESPECIFICMAIN_H
+
+#include "znhogcore/src/znCHogCoreMain.h"
+
+// The main object of The Petrel Mail: the hidden-object core plus what only this game has. It adds no state.
+class CGameSpecificMain : public znCHogCoreMain
+{
+public:
+    // Makes the one main object and starts everything up. With an instance present it logs "Already created." and
+    // destroys that one first.
+    static void create();
+    ~CGameSpecificMain() override = default;
+
+private:
+    CGameSpecificMain() = default;
+};
+
+#endif
