@@ -1,0 +1,55 @@
+#ifndef ZNAPPCORE_SRC_ZNCCOMPONENTFACTORY_H
+#define ZNAPPCORE_SRC_ZNCCOMPONENTFACTORY_H
+
+// Makes components by their type. A singleton; a game layer derives its own factory, whose componentsRegister() calls
+// the base's and adds its types, and makes that one the instance.
+
+#include "znappcore/znCUniqueId.h"
+
+#include <map>
+#include <memory>
+
+class znCEntity;
+class znIComponent;
+
+class znCComponentFactory
+{
+public:
+    using Creator = znIComponent* (*)(znCEntity* pEntity);
+
+    virtual ~znCComponentFactory();
+
+    static void create();
+    static znCComponentFactory* instanceGet();
+    static void destroy(); // silent without an instance
+
+    // The first registration of a type stands, a second is ignored.
+    void componentRegister(const znCUniqueId& pType, Creator pCreator);
+    template <class T>
+    void componentRegister()
+    {
+        componentRegister(T::TYPE, creator<T>);
+    }
+    bool componentExistsGet(const znCUniqueId& pType) const;
+    // The new component belongs to pEntity, the caller enters it there; it listens already if it is a listener. Null,
+    // with a log line, for a type that isn't registered.
+    znIComponent* componentCreate(znCEntity* pEntity, const znCUniqueId& pType);
+
+protected:
+    znCComponentFactory() = default;
+    virtual void componentsRegister();
+
+    // For a derived class's create(): makes pFactory the instance and has it register its types.
+    static void instanceSet(std::unique_ptr<znCComponentFactory> pFactory);
+
+private:
+    template <class T>
+    static znIComponent* creator(znCEntity* pEntity)
+    {
+        return new T(pEntity); // deleted by the entity
+    }
+
+    std::map<u32, Creator> mCreators;
+};
+
+#endif

@@ -1,0 +1,34 @@
+#ifndef ZNAPPCORE_ZNISPRITERENDERDATA_H
+#define ZNAPPCORE_ZNISPRITERENDERDATA_H
+
+#include "znappcore/znCMaterial.h"
+#include "zncore/znCColour.h"
+#include "zncore/znPointF.h"
+
+// One quad as the renderer takes it. Owned by what submits it, and left alone from submission to the end of the frame.
+// Corners are in the order top left, bottom left, bottom right, top right.
+class znISpriteRenderData
+{
+public:
+    // Corners in device pixels.
+    virtual void verticesSet(const znPointF pCorners[4]) = 0;
+    virtual void uvsSet(float pU0, float pU1, float pV0, float pV1) = 0;
+    virtual void colourSet(const znCColour& pColour) = 0;
+    virtual ~znISpriteRenderData() = default;
+
+    // Takes texture coordinates and material from the brush, which must outlive the use of this object.
+    void brushApply(const znCBrush& pBrush);
+
+    znCMaterial& materialGet() { return mMaterial; }
+    const znCMaterial& materialGet() const { return mMaterial; }
+
+protected:
+    znISpriteRenderData() = default;
+    znISpriteRenderData(const znISpriteRenderData&) = default;
+    znISpriteRenderData& operator=(const znISpriteRenderData&) = default;
+
+private:
+    znCMaterial mMaterial;
+};
+
+#endif
