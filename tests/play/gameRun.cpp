@@ -1,0 +1,102 @@
+#include "tests/play/gameRun.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+std::string fileRead(const fs::path& pPath)
+{
+    std::ifstream file(pPath, std::ios::binary);
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
+}
+
+std::string quoted(const std::string& pText)
+{
+    std::string result = "'";
+    for (char c : pText)
+        result += c == '\'' ? std::string("'\\''") : std::string(1, c);
+    return result + "'";
+}
+} // namespace
+
+GameRun::GameRun(const std::string& pName)
+    : mFolder(fs::temp_directory_path() / ("petrel-" + pName + "-" + std::to_string(getpid())))
+{
+    fs::remove_all(mFolder);
+    fs::create_directories(mFolder / "user");
+    fs::create_directories(mFolder / "shots");
+}
+
+GameRun::~GameRun()
+{
+    std::error_code ignored;
+    fs::remove_all(mFolder, ignored);
+}
+
+std::string GameRun::scriptWrite(const std::string& pText)
+{
+    const fs::path path = mFolder / "input.script";
+    std::ofstream(path) << pText;
+    return path.string();
+}
+
+int GameRun::headlessRun(const std::vector<std::string>& pOptions)
+{
+    std::vector<std::string> options = {"--headless", "--step", "16",        "--seed", "1000", "--data", PETREL_ROOT "/data",
+                                        "--user",     (mFolder / "user"), "--shots", (mFolder / "shots")};
+    options.insert(options.end(), pOptions.begin(), pOptions.end());
+    return run(options);
+}
+
+int GameRun::run(const std::vector<std::string>& pOptions)
+{
+    std::string command = quoted(PETREL_BIN "/petrelmail");
+    for (const std::string& option : pOptions)
+        command += " " + quoted(option);
+    command += " >" + quoted(mFolder / "out.txt") + " 2>" + quoted(mFolder / "err.txt") + " </dev/null";
+    const int status = std::system(command.c_str());
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+std::string GameRun::outputGet() const
+{
+    return fileRead(mFolder / "out.txt");
+}
+
+std::string GameRun::errorGet() const
+{
+    return fileRead(mFolder / "err.txt");
+}
+
+std::string GameRun::logGet() const
+{
+    return userFileGet("log.txt");
+}
+
+std::string GameRun::userFileGet(const std::string& pName) const
+{
+    return fileRead(mFolder / "user" / pName);
+}
+
+std::string GameRun::shotGet(const std::string& pName) const
+{
+    return fileRead(mFolder / "shots" / (pName + ".png"));
+}
+
+std::vector<std::string> logFaultsGet(const std::string& pLog)
+{
+    std::vector<std::string> faults;
+    std::istringstream lines(pLog);
+    for (std::string line; std::getline(lines, line);)
+        if (line.rfind("ERROR(", 0) == 0)
+            faults.push_back(line);
+    return faults;
+}
