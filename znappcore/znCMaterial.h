@@ -11,10 +11,10 @@ class znCMaterial
 {
 public:
     // Alpha modes, as particle files and the drawing table number them.
-    static constexpr u32 sBlendNone = 0;
-    static constexpr u32 sBlendAdd = 2;
-    static constexpr u32 sBlendSubtract = 3;
-    static constexpr u32 sBlendAlpha = 4;
+    static constexpr u32 BLEND_NONE = 0;
+    static constexpr u32 BLEND_ADD = 2;
+    static constexpr u32 BLEND_SUBTRACT = 3;
+    static constexpr u32 BLEND_ALPHA = 4;
 
     // Takes the brush's texture, with blending if that has an alpha channel.
     void brushApply(const znCBrush& pBrush);
@@ -31,7 +31,7 @@ public:
 
 private:
     znITexture* mTexture = nullptr; // owned by the brush that was applied
-    u32 mAlphaMode = sBlendAlpha;
+    u32 mAlphaMode = BLEND_ALPHA;
 };
 
 #endif

@@ -2,6 +2,7 @@
 #define ZNAPPCORE_ZNIDISPLAY_H
 
 #include "znappcore/znCDisplayMode.h"
+#include "znappcore/znCUniqueId.h"
 #include "znappcore/znINode.h"
 
 #include <list>
@@ -18,6 +19,9 @@
 class znIDisplay : public znINode
 {
 public:
+    // Sent through znCGuiMessageDispatcher after fullScreenToggle(); empty data.
+    static constexpr znCUniqueId FULL_SCREEN_TOGGLE{"FullScreenToggle"};
+
     // Chooses the modes and applies "FullScreen" of the saved settings. The configuration value "FullScreen" of group
     // "s3e", when the program was started with one, replaces the saved value first.
     // A second call logs "Already created znIDisplay.\n" and starts anew.
