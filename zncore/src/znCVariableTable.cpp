@@ -1,0 +1,242 @@
+#include "zncore/src/znCVariableTable.h"
+#include "zncore/debug/znIDebug.h"
+#include "zncore/znCResourceName.h"
+#include "zncore/znIFile.h"
+#include "zncore/znNCoreUtils.h"
+#include "zncore/znStr.h"
+#include <algorithm>
+#include <cstring>
+
+namespace
+{
+constexpr std::string_view COMMENT_START = "--";
+
+std::string lowerGet(const std::string& pText)
+{
+    std::string lower = pText;
+    znStr::toLower(lower);
+    return lower;
+}
+
+bool upperCaseHas(const std::string& pText)
+{
+    return std::any_of(pText.begin(), pText.end(), [](char pLetter) { return pLetter >= 'A' && pLetter <= 'Z'; });
+}
+
+// The key up to the next "=", blanks and tabs dropped, pPos then on the "=". False, with pPos behind what was read, if
+// the line or the text ends before one.
+bool keyRead(const char*& pPos, const char* pEnd, std::string& pKey)
+{
+    pKey.clear();
+    for (; pPos < pEnd && *pPos != '='; ++pPos)
+    {
+        if (*pPos == '\n')
+        {
+            ++pPos;
+            return false;
+        }
+        if (*pPos != ' ' && *pPos != '\t')
+            pKey += *pPos;
+    }
+    return pPos < pEnd;
+}
+
+void spaceSkip(const char*& pPos, const char* pEnd)
+{
+    while (pPos < pEnd && (*pPos == ' ' || *pPos == '\t' || *pPos == '\r' || *pPos == '\n'))
+        ++pPos;
+}
+
+// The terminator's place, pEnd if there is none.
+const char* terminatorFind(const char* pPos, bool pQuoted, const char* pEnd)
+{
+    const char wanted = pQuoted ? '"' : ',';
+    for (; pPos < pEnd; ++pPos)
+    {
+        pPos = static_cast<const char*>(std::memchr(pPos, wanted, static_cast<std::size_t>(pEnd - pPos)));
+        if (pPos == nullptr)
+            return pEnd;
+        if (!pQuoted || (pPos + 1 < pEnd && pPos[1] == ','))
+            return pPos;
+    }
+    return pEnd;
+}
+} // namespace
+
+const std::string* znCVariableTable::valueFind(const std::string& pKey) const
+{
+    const auto entry = mEntries.find(upperCaseHas(pKey) ? lowerGet(pKey) : pKey);
+    return entry == mEntries.end() ? nullptr : &entry->second;
+}
+
+std::string znCVariableTable::strGet(const std::string& pKey, const std::string& pDefault) const
+{
+    const std::string* value = valueFind(pKey);
+    return value != nullptr ? *value : pDefault;
+}
+
+std::string znCVariableTable::strGet(const std::string& pKey) const
+{
+    return strGet(pKey, std::string());
+}
+
+s32 znCVariableTable::s32Get(const std::string& pKey, s32 pDefault) const
+{
+    const std::string* value = valueFind(pKey);
+    return value != nullptr ? znStr::toS32(*value) : pDefault;
+}
+
+s32 znCVariableTable::s32Get(const std::string& pKey) const
+{
+    return s32Get(pKey, 0);
+}
+
+float znCVariableTable::f32Get(const std::string& pKey, float pDefault) const
+{
+    const std::string* value = valueFind(pKey);
+    return value != nullptr ? znStr::toF32(*value) : pDefault;
+}
+
+float znCVariableTable::f32Get(const std::string& pKey) const
+{
+    return f32Get(pKey, 0.0f);
+}
+
+bool znCVariableTable::boolGet(const std::string& pKey, bool pDefault) const
+{
+    const std::string* value = valueFind(pKey);
+    return value != nullptr ? *value == "1" || *value == "true" : pDefault;
+}
+
+bool znCVariableTable::boolGet(const std::string& pKey) const
+{
+    return boolGet(pKey, false);
+}
+
+bool znCVariableTable::keyExistsGet(const std::string& pKey) const
+{
+    return valueFind(pKey) != nullptr;
+}
+
+void znCVariableTable::strSet(const std::string& pKey, const std::string& pValue)
+{
+    entrySet(std::string(pKey), std::string(pValue));
+}
+
+void znCVariableTable::s32Set(const std::string& pKey, s32 pValue)
+{
+    strSet(pKey, znStr(pValue));
+}
+
+void znCVariableTable::f32Set(const std::string& pKey, float pValue)
+{
+    strSet(pKey, znStr(pValue));
+}
+
+void znCVariableTable::boolSet(const std::string& pKey, bool pValue)
+{
+    strSet(pKey, pValue ? "1" : "0");
+}
+
+void znCVariableTable::tableMerge(const znCVariableTable& pOther)
+{
+    for (const auto& [key, value] : pOther.mEntries)
+        mEntries.insert_or_assign(key, value);
+}
+
+void znCVariableTable::keysContainingRemove(const std::string& pText)
+{
+    const std::string text = lowerGet(pText);
+    std::erase_if(mEntries, [&text](const auto& pEntry) { return pEntry.first.find(text) != std::string::npos; });
+}
+
+std::vector<std::string> znCVariableTable::keysWithPrefixGet(const std::string& pPrefix) const
+{
+    const std::string prefix = lowerGet(pPrefix);
+    std::vector<std::string> keys;
+    for (auto entry = mEntries.lower_bound(prefix); entry != mEntries.end() && entry->first.starts_with(prefix);
+         ++entry)
+        keys.push_back(entry->first);
+    return keys;
+}
+
+s32 znCVariableTable::fileLoad(const znCResourceName& pName)
+{
+    std::string text;
+    const znNCoreUtils::FileResult result = znNCoreUtils::fileRead(pName, znNCoreUtils::TEXT_FILE_SIZE_LIMIT, text);
+    if (result != znNCoreUtils::FileResult::done)
+        return mLoadStatus = result == znNCoreUtils::FileResult::missing ? STATUS_MISSING : STATUS_READ_FAILED;
+    const char* begin = text.data();
+    if (const char* cutOff = entriesParse(begin, begin + text.size()))
+        ZN_LOG("File %s, line %d: this entry has no end.\n", pName.nameGet().c_str(),
+               static_cast<s32>(std::count(begin, cutOff, '\n')) + 1);
+    return mLoadStatus = STATUS_LOADED;
+}
+
+bool znCVariableTable::fileSave(const znCResourceName& pName) const
+{
+    std::string text;
+    for (const auto& [key, value] : mEntries)
+        text.append(key).append(" = \"").append(value).append("\",\r\n");
+    const boost::shared_ptr<znIFile> file = znIFile::create();
+    bool saved = file->open(pName, znIFile::MODE_WRITE);
+    if (saved)
+    {
+        file->write(text.data(), static_cast<uint32>(text.size()));
+        file->close();
+        saved = !file->writeFailedGet();
+    }
+    ZN_ASSERT(saved, "File %s could not be written.\n", pName.nameGet().c_str());
+    return saved;
+}
+
+void znCVariableTable::textParse(const char* pBegin, const char* pEnd)
+{
+    entriesParse(pBegin, pEnd);
+}
+
+const char* znCVariableTable::entriesParse(const char* pBegin, const char* pEnd)
+{
+    const char* cutOff = nullptr;
+    std::string key;
+    for (const char* pos = pBegin; pos < pEnd;)
+    {
+        const char* entryBegin = pos;
+        if (!keyRead(pos, pEnd, key))
+            continue;
+        ++pos;
+        spaceSkip(pos, pEnd);
+        const bool quoted = pos < pEnd && *pos == '"';
+        pos += quoted;
+        std::string value;
+        copyToTerminator(pos, quoted, value, pEnd);
+        if (pos == pEnd)
+            cutOff = entryBegin;
+        if (quoted)
+            pos = std::find(pos, pEnd, ',');
+        pos += quoted && pos < pEnd;
+        if (!key.starts_with(COMMENT_START))
+            entrySet(std::move(key), std::move(value));
+        // In the plain form this is the comma, in the quoted one the line end behind it.
+        pos += pos < pEnd;
+    }
+    return cutOff;
+}
+
+void znCVariableTable::copyToTerminator(const char*& pPos, bool pQuoted, std::string& pOut, const char* pEnd)
+{
+    const char* terminator = terminatorFind(pPos, pQuoted, pEnd);
+    pOut.append(pPos, terminator);
+    pPos = terminator;
+    ZN_ASSERT(pPos != pEnd, "Passed the end of the file. Did you miss a \" or a , ?");
+}
+
+void znCVariableTable::entrySet(std::string&& pKey, std::string&& pValue)
+{
+    znStr::toLower(pKey);
+    // Files that were saved come in key order: these go in at the end without a search.
+    if (mEntries.empty() || mEntries.rbegin()->first < pKey)
+        mEntries.emplace_hint(mEntries.end(), std::move(pKey), std::move(pValue));
+    else
+        mEntries.insert_or_assign(std::move(pKey), std::move(pValue));
+}
