@@ -137,7 +137,7 @@ protected:
     bool mInUpdate = false; // the children are being walked by treeUpdate
     bool mActive = true;
     bool mMatrixDirty = false;
-    znPoint mPos;
+    znPoint mPos{0, 0};
     float mScaleX = 1.0f;
     float mScaleY = 1.0f;
     float mRotation = 0.0f;

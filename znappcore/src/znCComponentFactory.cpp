@@ -1,0 +1,59 @@
+#include "znappcore/src/znCComponentFactory.h"
+
+#include "znappcore/znIComponent.h"
+#include "znappcore/znIMessageListener.h"
+#include "zncore/debug/znIDebug.h"
+
+namespace
+{
+std::unique_ptr<znCComponentFactory> sInstance;
+}
+
+znCComponentFactory::~znCComponentFactory() = default;
+
+void znCComponentFactory::create()
+{
+    instanceSet(std::unique_ptr<znCComponentFactory>(new znCComponentFactory));
+}
+
+void znCComponentFactory::instanceSet(std::unique_ptr<znCComponentFactory> pFactory)
+{
+    ZN_ASSERT(sInstance == nullptr, "Already created znCComponentFactory.\n");
+    sInstance = std::move(pFactory);
+    sInstance->componentsRegister();
+}
+
+znCComponentFactory* znCComponentFactory::instanceGet()
+{
+    ZN_ASSERT(sInstance != nullptr, "Not created.\n");
+    return sInstance.get();
+}
+
+void znCComponentFactory::destroy()
+{
+    sInstance.reset();
+}
+
+void znCComponentFactory::componentsRegister() {}
+
+void znCComponentFactory::componentRegister(const znCUniqueId& pType, Creator pCreator)
+{
+    mCreators.emplace(pType.idGet(), pCreator);
+}
+
+bool znCComponentFactory::componentExistsGet(const znCUniqueId& pType) const
+{
+    return mCreators.contains(pType.idGet());
+}
+
+znIComponent* znCComponentFactory::componentCreate(znCEntity* pEntity, const znCUniqueId& pType)
+{
+    const auto creator = mCreators.find(pType.idGet());
+    ZN_ASSERT(creator != mCreators.end(), "No such component.\n");
+    if (creator == mCreators.end())
+        return nullptr;
+    znIComponent* component = creator->second(pEntity);
+    if (auto* listener = dynamic_cast<znIMessageListener*>(component))
+        listener->messagesRegister();
+    return component;
+}
