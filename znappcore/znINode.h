@@ -128,6 +128,8 @@ protected:
     void matrixDirtyMark();
     // Rebuilds the matrices of this node and of all below it at once.
     void matrixRebuild();
+    // Deletes all children, for a class whose children must go while it is still whole.
+    void childrenDelete();
 
     std::vector<znINode*> mChildren; // owned: deleted in the destructor; paint order
     znINode* mParent = nullptr;
@@ -147,7 +149,6 @@ protected:
 
 private:
     void childErase(znINode* pChild);
-    void childrenDelete();
     void newNodesLeave();
     void matrixRefresh();
     void rotationAdvance(s32 pDeltaMs);

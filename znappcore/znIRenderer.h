@@ -87,7 +87,6 @@ private:
     bool fontIncrementIfChanged(const znITextRenderData& pData);
     bool materialRunAdd(const znISpriteRenderData& pData);
     bool fontRunAdd(const znITextRenderData& pData);
-    void jobsClear();
 
 protected:
     std::vector<std::unique_ptr<znIRenderJob>> mJobs; // in the order of adding

@@ -2,7 +2,7 @@
 #define ZNAPPCORE_ZNITEXTRENDERDATA_H
 
 #include "media/znCGraphicsMaterial.h"
-#include "zncore/znCAffineMtx2d.h"
+#include "zncore/znAffineMtx2d.h"
 #include "zncore/znCColour.h"
 #include "zncore/znPoint.h"
 #include "zncore/znPointF.h"

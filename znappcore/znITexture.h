@@ -75,6 +75,9 @@ protected:
     znITexture() = default;
 
 private:
+    // Of a point inside, with the hit map there.
+    bool hitBitGet(s32 pX, s32 pY, s32 pWidth) const;
+
     std::unique_ptr<u8[]> mHitBits;
     bool mDefaultPicture = false;
 };

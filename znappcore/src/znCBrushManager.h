@@ -3,6 +3,7 @@
 
 #include "znappcore/src/znCBrush.h"
 
+#include <array>
 #include <map>
 #include <string>
 #include <string_view>
@@ -43,6 +44,9 @@ public:
 
 private:
     znCBrushManager() = default;
+
+    void recordsRead(const znCResourceName& pPage, std::string_view pRecords, const znITexturePtr& pTexture);
+    void recordEnter(const std::string& pName, const std::array<s32, 4>& pRectangle, const znITexturePtr& pTexture);
 
     std::map<std::string, znCBrushPtr> mBrushes; // by resource name
 };

@@ -3,7 +3,7 @@
 
 #include "znappcore/src/znCBrush.h"
 #include "znappcore/src/znCSpriteRenderData.h"
-#include "zncore/znCAffineMtx2d.h"
+#include "zncore/znAffineMtx2d.h"
 
 // A textured quad centred on the origin of its matrix. Held by value by whatever shows one; it must not move in memory
 // between render() and the end of the frame. Until a brush is set it has no size, shows nothing and can't be hit.
@@ -39,6 +39,8 @@ public:
     bool hitTest(const znPoint& pLocal, bool pExpectHitMap) const;
 
 private:
+    void cornersTransform();
+
     znCSpriteRenderData mRenderData;
     znAffineMtx2d mMatrix;
     znCBrushPtr mBrush;

@@ -1,0 +1,8 @@
+#include "znappcore/src/znCRenderJobText.h"
+
+#include "znappcore/znIRenderer.h"
+
+void znCRenderJobText::execute()
+{
+    mRenderer->textDraw(mFirst, mLast);
+}
