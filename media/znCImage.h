@@ -72,6 +72,9 @@ public:
     static s32 pixelBytesGet(znEImageFormat pFormat);
 
 private:
+    // Writes the one log line and makes the default picture.
+    void failureReport(const char* pName, const char* pReason);
+
     std::unique_ptr<u8[]> mPixels;
     znEImageFormat mFormat = ZN_IMAGE_NONE;
     s32 mWidth = 0;
