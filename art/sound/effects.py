@@ -1,0 +1,80 @@
+"""The game's short sounds."""
+
+import sys
+
+import numpy as np
+
+import master
+from dsp import band, bell, hump, noise_ring, put, reverberate, room, samples, stereo, struck, tail_cut, times
+
+RANDOM = np.random.default_rng(1887)
+
+
+def noise(seconds, low, high, slope=-3.0):
+    return noise_ring(samples(seconds), low, high, RANDOM, slope)
+
+
+def find():
+    """Three small bells upwards, a ship's brass in the distance: heard hundreds of times, so short and soft at the edge."""
+    out = np.zeros((samples(1.5), 2))
+    for at, frequency, gain, pan in ((0, 1318.5, 0.8, -0.2), (0.075, 1760.0, 0.9, 0.0), (0.15, 2637.0, 0.75, 0.2)):
+        put(out, stereo(bell(frequency, 0.9, 0.7), pan), at, gain)
+    put(out, stereo(bell(659.25, 1.1, 0.4)), 0.15, 0.25)
+    return reverberate(out, room(0.9, RANDOM, 6000), 0.22)
+
+
+def click():
+    """A brass switch on a wooden desk."""
+    out = np.zeros(samples(0.12))
+    put(out, band(RANDOM.standard_normal(samples(0.012)), 1500, 5200) * np.linspace(1, 0, samples(0.012)) ** 2, 0, 0.5)
+    put(out, struck(0.09, [(240, 0.8, 0.05), (610, 0.55, 0.04), (1870, 0.28, 0.03)], 0.0008), 0.001, 0.9)
+    put(out, band(RANDOM.standard_normal(samples(0.006)), 2200, 6500) * np.linspace(1, 0, samples(0.006)), 0.034, 0.18)
+    return out
+
+
+def wrong():
+    """A muffled double knock on a hollow crate, falling: no, but kindly."""
+    out = np.zeros(samples(0.55))
+    for at, tune, gain in ((0, 1.0, 1.0), (0.14, 0.82, 0.85)):
+        put(out, struck(0.3, [(176 * tune, 1.0, 0.22), (262 * tune, 0.5, 0.16), (415 * tune, 0.25, 0.09)], 0.003), at, gain)
+        put(out, band(RANDOM.standard_normal(samples(0.02)), 200, 1100) * np.linspace(1, 0, samples(0.02)) ** 2, at, 0.35 * gain)
+    return reverberate(out, room(0.35, RANDOM, 2200), 0.18)
+
+
+def card():
+    """A card turned over on baize: a swish, then the slap of its edge."""
+    out = np.zeros(samples(0.34))
+    put(out, noise(0.15, 1800, 7500) * hump(0.15, 0.10), 0, 0.30)
+    put(out, noise(0.03, 900, 4200) * hump(0.03, 0.002), 0.125, 0.85)
+    put(out, struck(0.08, [(310, 0.8, 0.05), (540, 0.35, 0.035)], 0.001), 0.127, 0.55)
+    return stereo(out)
+
+
+def jigsaw():
+    """Two pieces of wood pressed together: click, and the settling behind it."""
+    out = np.zeros(samples(0.3))
+    for at, gain, tune in ((0, 0.6, 1.0), (0.045, 1.0, 0.9)):
+        put(out, struck(0.12, [(420 * tune, 1.0, 0.06), (980 * tune, 0.6, 0.045), (2250 * tune, 0.3, 0.025)], 0.0006), at, gain)
+        put(out, noise(0.012, 1500, 6000) * hump(0.012, 0.001), at, 0.28 * gain)
+    return reverberate(out, room(0.25, RANDOM, 3800), 0.12)
+
+
+def page():
+    """A leaf of heavy paper lifts, bends and falls."""
+    out = np.zeros(samples(0.75))
+    put(out, noise(0.42, 900, 6500) * hump(0.42, 0.26), 0, 0.36)
+    put(out, noise(0.22, 1600, 9000) * hump(0.22, 0.05), 0.33, 0.30)
+    for at in np.sort(RANDOM.uniform(0.04, 0.5, 26)):  # fibres that crackle where it bends
+        put(out, noise(0.006, 1800, 8000) * hump(0.006, 0.0008), at, RANDOM.uniform(0.1, 0.45))
+    put(out, noise(0.07, 250, 1800) * hump(0.07, 0.006), 0.52, 0.45)
+    return reverberate(out, room(0.3, RANDOM, 5000), 0.10)
+
+
+def main(out):
+    for make in (find, click, wrong, card, jigsaw, page):
+        sound = master.peak_set(tail_cut(make()))
+        master.write(f"{out}/{make.__name__}.wav", sound)
+        print(f"{make.__name__}.wav: {len(sound) / master.RATE:.2f} s, {master.level(sound):.1f} dB RMS")
+
+
+main(sys.argv[1])
