@@ -178,6 +178,9 @@ bool znCVariableTable::fileSave(const znCResourceName& pName) const
     std::string text;
     for (const auto& [key, value] : mEntries)
         text.append(key).append(" = \"").append(value).append("\",\r\n");
+    // An empty file would be read as one that got lost, and the generation before it would come back.
+    if (text.empty())
+        text = "\r\n";
     const boost::shared_ptr<znIFile> file = znIFile::create();
     bool saved = file->open(pName, znIFile::MODE_WRITE);
     if (saved)
