@@ -1,5 +1,7 @@
 #include "znappcore/src/znCComponentFactory.h"
 
+#include "znappcore/components/znCDragDropComponent.h"
+#include "znappcore/components/znCSpriteComponent.h"
 #include "znappcore/znIComponent.h"
 #include "znappcore/znIMessageListener.h"
 #include "zncore/debug/znIDebug.h"
@@ -34,7 +36,11 @@ void znCComponentFactory::destroy()
     sInstance.reset();
 }
 
-void znCComponentFactory::componentsRegister() {}
+void znCComponentFactory::componentsRegister()
+{
+    componentRegister<znCDragDropComponent>();
+    componentRegister<znCSpriteComponent>();
+}
 
 void znCComponentFactory::componentRegister(const znCUniqueId& pType, Creator pCreator)
 {
