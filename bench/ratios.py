@@ -28,11 +28,16 @@ def times_read(path):
             continue
         if "cpu_time" in run:
             name = run.get("run_name", run["name"]) if run.get("aggregate_name") == "median" else run["name"]
-            times[name] = run["cpu_time"] * unit[run["time_unit"]]
+            clock = "real_time" if "/manual_time" in name else "cpu_time"
+            times[name] = run[clock] * unit[run["time_unit"]]
+            if "peak_mb" in run:
+                times["Memory of " + name] = run["peak_mb"]
     return times
 
 
-def text(nanoseconds):
+def text(name, nanoseconds):
+    if name.startswith("Memory of "):
+        return f"{nanoseconds:.1f} MB"
     for name, size in (("s", 1e9), ("ms", 1e6), ("us", 1e3)):
         if nanoseconds >= size:
             return f"{nanoseconds / size:.2f} {name}"
@@ -47,11 +52,11 @@ def rows(program, times, limits):
         label = f"{program}: {thing}{arguments}"
         reference = times.get(f"{thing}_reference{arguments}")
         if reference is None:
-            yield label, text(ours), "", "", "", ""
+            yield label, text(name, ours), "", "", "", ""
             continue
-        ratio, limit = ours / reference, limits.get(thing)
+        ratio, limit = ours / reference, limits.get(thing.removeprefix("Memory of "))
         verdict = "" if limit is None else ("ok" if ratio <= limit else "OVER")
-        yield label, text(ours), text(reference), f"{ratio:.2f}", "" if limit is None else f"{limit:g}", verdict
+        yield label, text(name, ours), text(name, reference), f"{ratio:.2f}", "" if limit is None else f"{limit:g}", verdict
 
 
 def main():
