@@ -25,7 +25,7 @@ TEST_F(znCLocalisedStringsTest, TextsAreCleaned)
         {"100%%%%", "100%"},
         {"one&lt;br&gt;two", "one\ntwo"},
         {"&amp;", ""},
-        {"&amp;lt;b&amp;gt;x", "lt;bx"}, // the first is cut off; the rest is no tag any more
+        {"&amp;lt;b&amp;gt;x", "lt;b>x"}, // the first is cut off, so that the rest is no tag
         {"x&amp;amp;y", "x&y"},
         {"a&#160;b&#45;c", "a b-c"},
         {"&lt;b&gt;bold&lt;/b&gt; &quot;q&quot; &apos;a&apos;", "bold \"q\" 'a'"},
