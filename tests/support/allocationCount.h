@@ -1,7 +1,8 @@
 #ifndef TESTS_SUPPORT_ALLOCATIONCOUNT_H
 #define TESTS_SUPPORT_ALLOCATIONCOUNT_H
 
-// How often the program has called operator new so far, in any of its forms. Memory from malloc isn't counted.
+// How often the program has asked for memory so far: under AddressSanitizer every allocation, also those of C
+// libraries; otherwise every operator new.
 
 #include <cstddef>
 

@@ -12,12 +12,12 @@ znCEntityFactory::~znCEntityFactory() = default;
 
 void znCEntityFactory::create()
 {
-    instanceSet(std::unique_ptr<znCEntityFactory>(new znCEntityFactory));
+    instanceSet(std::unique_ptr<znCEntityFactory>(new znCEntityFactory), "znCEntityFactory");
 }
 
-void znCEntityFactory::instanceSet(std::unique_ptr<znCEntityFactory> pFactory)
+void znCEntityFactory::instanceSet(std::unique_ptr<znCEntityFactory> pFactory, const char* pClassName)
 {
-    ZN_ASSERT(sInstance == nullptr, "Already created znCEntityFactory.\n");
+    ZN_ASSERT(sInstance == nullptr, "Already created %s.\n", pClassName);
     sInstance = std::move(pFactory);
     sInstance->constructionPlansRegister();
 }

@@ -38,10 +38,12 @@ protected:
     znCEntityFactory() = default;
 
     // For a derived class's create(): makes pFactory the instance and has it register its plans.
-    static void instanceSet(std::unique_ptr<znCEntityFactory> pFactory);
+    // pClassName: what "Already created" names.
+    static void instanceSet(std::unique_ptr<znCEntityFactory> pFactory, const char* pClassName);
 
     // Null if there is none.
     const std::vector<znCUniqueId>* constructionPlanFind(const std::string& pPrefix) const;
+    const std::map<std::string, std::vector<znCUniqueId>>& constructionPlansGet() const { return mConstructionPlans; }
 
 private:
     std::map<std::string, std::vector<znCUniqueId>> mConstructionPlans;
