@@ -19,7 +19,7 @@ public:
     void* take(std::size_t pBytes)
     {
         const std::size_t bytes = (pBytes + sAlignment - 1) & ~(sAlignment - 1);
-        if (bytes > mLeft)
+        if (bytes > mLeft || mNext == nullptr)
             blockAdd(bytes);
         u8* piece = mNext;
         mNext += bytes;

@@ -8,12 +8,13 @@
 
 namespace
 {
-// The table's number for a format that formatConvert leaves as it is.
+// The table's number for a format as redFirstMake leaves it.
 s32 tableFormatGet(znEImageFormat pFormat)
 {
     switch (pFormat)
     {
     case ZN_IMAGE_ABGR_8888:
+    case ZN_IMAGE_ARGB_8888:
         return S3E_DRAW_ABGR_8888;
     case ZN_IMAGE_ALPHA_8:
         return S3E_DRAW_ALPHA_8;
@@ -70,6 +71,8 @@ bool znCGraphicsTexture::upload(znCImage& pImage, const char* pName)
 bool znCGraphicsTexture::alpha8Upload(const u8* pTexels, s32 pWidth, s32 pHeight, s32 pPitch)
 {
     free();
+    if (pWidth < 1 || pHeight < 1)
+        return false;
     mFormat = ZN_IMAGE_ALPHA_8;
     mWidth = pWidth;
     mHeight = pHeight;

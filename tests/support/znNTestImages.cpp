@@ -24,8 +24,9 @@ void chunkAdd(Bytes* pFile, const std::string& pType, const Bytes& pData)
     pFile->insert(pFile->end(), pData.begin(), pData.end());
     numberAdd(pFile, static_cast<u32>(crc32(0, pFile->data() + start, static_cast<uInt>(pFile->size() - start))));
 }
+} // namespace
 
-Bytes deflated(const Bytes& pBytes)
+Bytes znNTestImages::deflate(const Bytes& pBytes)
 {
     uLongf size = compressBound(pBytes.size());
     Bytes result(size);
@@ -33,7 +34,6 @@ Bytes deflated(const Bytes& pBytes)
     result.resize(size);
     return result;
 }
-} // namespace
 
 Bytes znNTestImages::pngMake(const PngParts& pParts)
 {
@@ -45,7 +45,7 @@ Bytes znNTestImages::pngMake(const PngParts& pParts)
     chunkAdd(&file, "IHDR", header);
     for (const auto& [type, data] : pParts.mChunks)
         chunkAdd(&file, type, data);
-    chunkAdd(&file, "IDAT", deflated(pParts.mRows));
+    chunkAdd(&file, "IDAT", deflate(pParts.mRows));
     chunkAdd(&file, "IEND", {});
     return file;
 }

@@ -12,6 +12,9 @@ namespace znNTestImages
 {
 using Bytes = std::vector<u8>;
 
+// The bytes as a zlib stream, as PNG chunks hold them.
+Bytes deflate(const Bytes& pBytes);
+
 // What a PNG file says, whether it makes sense or not.
 struct PngParts
 {
