@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <bit>
 #include <cstring>
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
 
 namespace
 {
@@ -11,6 +14,21 @@ static_assert(std::endian::native == std::endian::little, "the fourth byte of a 
 constexpr std::size_t PIXEL_BYTES = 4;
 constexpr std::size_t GROUP = 8; // pixels to a byte of bits
 
+#if defined(__SSE2__)
+// 0xFFFFFFFF for each of four pixels whose alpha is 0, 0 for the others.
+__m128i clearPixelsGet(const u8* pPixels)
+{
+    const __m128i pixels = _mm_loadu_si128(reinterpret_cast<const __m128i*>(pPixels));
+    return _mm_cmpeq_epi32(_mm_srli_epi32(pixels, 24), _mm_setzero_si128());
+}
+
+// One byte of bits from eight pixels.
+u32 groupBitsGet(const u8* pPixels)
+{
+    const __m128i clear = _mm_packs_epi32(clearPixelsGet(pPixels), clearPixelsGet(pPixels + 16));
+    return ~static_cast<u32>(_mm_movemask_epi8(_mm_packs_epi16(clear, clear)));
+}
+#else
 // The bits 0 and 32 of the result: whether the two pixels of a word have an alpha that isn't 0.
 u64 pairBitsGet(const u8* pPixels)
 {
@@ -27,8 +45,9 @@ u32 groupBitsGet(const u8* pPixels)
 {
     const u64 pairs = pairBitsGet(pPixels) | pairBitsGet(pPixels + 8) << 2 | pairBitsGet(pPixels + 16) << 4 |
                       pairBitsGet(pPixels + 24) << 6;
-    return static_cast<u32>(pairs | pairs >> 31) & 0xFFu;
+    return static_cast<u32>(pairs | pairs >> 31);
 }
+#endif
 
 void singleBitsSet(u8* pBits, std::size_t pFirst, const u8* pPixels, std::size_t pCount)
 {
