@@ -71,8 +71,8 @@ void Start_ours(benchmark::State& pState)
 {
     const fs::path user = fs::temp_directory_path() / ("petrel-start-" + std::to_string(getpid()));
     fs::create_directories(user);
-    processMeasure(pState, {PETREL_BIN "/petrelmail", "--headless", "--step", "16", "--frames", "2", "--seed", "1", "--data",
-                            PETREL_ROOT "/data", "--user", user.string(), "--", "quay"});
+    processMeasure(pState, {PETREL_BIN "/petrelmail", "--headless", "--step", "16", "--frames", "2", "--seed", "1",
+                            "--data", PETREL_ROOT "/data", "--user", user.string(), "--", "quay"});
     fs::remove_all(user);
 }
 

@@ -1,12 +1,12 @@
-// The least that shows pictures: decodes the files named on the command line, uploads each as a texture, draws one frame
-// of all of them without a display, and ends. The game's start is measured against it.
+// The least that shows pictures: decodes the files named on the command line, uploads each as a texture, draws one
+// frame of all of them without a display, and ends. The game's start is measured against it.
 
-#include <GLES2/gl2.h>
-#include <SDL2/SDL.h>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <GLES2/gl2.h>
 #include <jpeglib.h>
+#include <SDL2/SDL.h>
 #include <spng.h>
 #include <string>
 #include <vector>

@@ -77,13 +77,13 @@ std::vector<std::string> faultsGet(const fs::path& pRoot)
 }
 } // namespace
 
-TEST(HouseIncludes, ArrowsPointOneWay)
+TEST(includesTest, arrowsPointOneWay)
 {
     for (const std::string& fault : faultsGet(PETREL_ROOT))
         ADD_FAILURE() << fault;
 }
 
-TEST(HouseIncludes, TheRuleSeesAWrongInclude)
+TEST(includesTest, seesAWrongInclude)
 {
     struct Case
     {

@@ -50,8 +50,9 @@ std::string GameRun::scriptWrite(const std::string& pText)
 
 int GameRun::headlessRun(const std::vector<std::string>& pOptions)
 {
-    std::vector<std::string> options = {"--headless", "--step", "16",        "--seed", "1000", "--data", PETREL_ROOT "/data",
-                                        "--user",     (mFolder / "user"), "--shots", (mFolder / "shots")};
+    std::vector<std::string> options = {
+        "--headless", "--step",           "16",      "--seed",           "1000", "--data", PETREL_ROOT "/data",
+        "--user",     (mFolder / "user"), "--shots", (mFolder / "shots")};
     options.insert(options.end(), pOptions.begin(), pOptions.end());
     return run(options);
 }

@@ -6,6 +6,7 @@
 #include "znappcore/src/znCEntityFactory.h"
 #include "znappcore/src/znCGuiMessageDispatcher.h"
 #include "znappcore/src/znCUserSavedData.h"
+#include "znappcore/znIAudioManager.h"
 #include "znappcore/znIDisplay.h"
 #include "znappcore/znIHardware.h"
 #include "znappcore/znIInputManager.h"
@@ -49,6 +50,7 @@ void znCAppCoreMain::startUp()
     znIHardware::create();
     znCAppSettings::create();
     znINode::staticVectorsCreate();
+    znIAudioManager::create();
     savedDataCreate();
     znCGuiMessageDispatcher::create();
     znIDisplay::create();
@@ -72,6 +74,7 @@ void znCAppCoreMain::shutDown()
     znIDisplay::destroy(); // deletes the whole tree
     mAppDisplayNode = nullptr;
     znCUserSavedData::destroy();
+    znIAudioManager::destroy();
     znINode::staticVectorsDestroy();
     znIInputManager::destroy();
     znIHardware::destroy();
@@ -87,6 +90,7 @@ bool znCAppCoreMain::frameUpdate(s32 pDeltaMs)
     znIDisplay::instanceGet()->treeUpdate(delta);
     znINode::flaggedNodesDestroy();
     znINode::newNodesParent();
+    znIAudioManager::instanceGet()->update(delta);
     appUpdate(delta);
     frameRender();
     return mQuit;

@@ -2,6 +2,7 @@
 
 #include "znappcore/src/znCAppCoreMain.h"
 #include "znappcore/src/znCUserSavedData.h"
+#include "znappcore/znIAudioManager.h"
 #include "znappcore/znIDisplay.h"
 #include "zncore/impl/platform/s3e.h"
 
@@ -35,7 +36,10 @@ bool znCPlatformLoop::step()
 
 bool znCPlatformLoop::quitRequestedGet() const
 {
-    const auto keyDown = [](s32 pKey) { return (s3eKeyboardGetState(pKey) & S3E_KEY_STATE_DOWN) != 0; };
+    const auto keyDown = [](s32 pKey)
+    {
+        return (s3eKeyboardGetState(pKey) & S3E_KEY_STATE_DOWN) != 0;
+    };
     return s3eDeviceCheckQuitRequest() != 0 || keyDown(S3E_KEY_BACK) || (keyDown(S3E_KEY_ALT) && keyDown(S3E_KEY_F4));
 }
 
@@ -54,6 +58,7 @@ s32 znCPlatformLoop::resumeCb(void*, void* pUserData)
 void znCPlatformLoop::suspend()
 {
     mPausedAt = s3eTimerGetMs();
+    znIAudioManager::instanceGet()->pause();
 }
 
 void znCPlatformLoop::resume()
@@ -61,6 +66,7 @@ void znCPlatformLoop::resume()
     if (mPausedAt != 0)
         mPausedLength = s3eTimerGetMs() - mPausedAt;
     mPausedAt = 0;
+    znIAudioManager::instanceGet()->resume();
     // The system may have taken the window out of its mode meanwhile.
     znIDisplay::instanceGet()->screenModeSet(znCUserSavedData::instanceGet()->boolGet("FullScreen"));
 }

@@ -6,7 +6,8 @@
 
 #include "zncore/impl/platform/s3e.h"
 
-// --- s3eWindow: a desktop window; its presence makes a desktop --------------------------------------------------------
+// --- s3eWindow: a desktop window; its presence makes a desktop
+// --------------------------------------------------------
 constexpr u32 S3E_WINDOW_HASH = 0xd31aa8a8;
 constexpr s32 S3E_WINDOW_SYSTEM_CURSOR = 1; // intGet, intSet: 1 visible, 0 hidden
 
@@ -33,7 +34,8 @@ struct s3eWindow
     s3eFunction mReserved[7]; // the table has fourteen places; null
 };
 
-// --- windowsMouseExt: the mouse on a desktop --------------------------------------------------------------------------
+// --- windowsMouseExt: the mouse on a desktop
+// --------------------------------------------------------------------------
 constexpr u32 S3E_MOUSE_HASH = 0x2067e94a;
 
 // The log callback gets the text as system data.
@@ -64,10 +66,10 @@ constexpr u32 S3E_DRAW_BLEND_ALPHA = 4;
 // One run of quads: four corners each in the order top left, bottom left, bottom right, top right.
 struct s3eDrawRun
 {
-    u32 mTexture;            // 0: plain colour
-    u32 mBlend;              // one of the four above
-    u32 mColour;             // of every vertex when mColours is null: (a << 24) | (b << 16) | (g << 8) | r, not premultiplied
-    s32 mVertexCount;        // a multiple of 4
+    u32 mTexture;     // 0: plain colour
+    u32 mBlend;       // one of the four above
+    u32 mColour;      // of every vertex when mColours is null: (a << 24) | (b << 16) | (g << 8) | r, not premultiplied
+    s32 mVertexCount; // a multiple of 4
     const float* mPositions; // x and y of each vertex in pixels of the surface, (0, 0) top left
     const float* mUvs;       // u and v of each vertex, 0 to 1; null with texture 0
     const u32* mColours;     // one a vertex, packed as mColour; null: mColour
@@ -91,6 +93,31 @@ struct s3eDraw
     void (*present)();
     // Rows from the top, 4 bytes a pixel R, G, B, A, of what was drawn since the last clear.
     s3eResult (*pixelsRead)(s32 pX, s32 pY, s32 pWidth, s32 pHeight, void* pPixels);
+};
+
+// --- petrelSound: short sounds
+// ----------------------------------------------------------------------------------------
+constexpr u32 S3E_SOUND_HASH = s3eHash("petrelSound");
+constexpr s32 S3E_SOUND_CHANNELS = 32; // how many samples sound at once
+constexpr s32 S3E_SOUND_MAX_VOLUME = 4096;
+
+// A play is known by a number that counts up and is never used again. Its end is reported once, inside update, unless
+// it was stopped.
+struct s3eSound
+{
+    // A sample from the bytes of a WAV file, which are copied. 0 if they are no sound.
+    u32 (*sampleCreate)(const void* pBytes, u32 pSize);
+    void (*sampleFree)(u32 pSample); // stops its plays
+    u32 (*play)(u32 pSample);        // the play's number; 0 when no channel is free
+    void (*stop)(u32 pPlay);         // a play that has ended is ignored here and below
+    void (*pause)(u32 pPlay);
+    void (*resume)(u32 pPlay);
+    void (*volumeSet)(s32 pVolume); // of all samples, 0 to S3E_SOUND_MAX_VOLUME
+    // pSystemData of the callback points to the u32 number of the play that ended; null: nobody is told
+    void (*endCallbackSet)(s3eCallback pCallback, void* pUserData);
+    // Reports the ends that came before this call; a play that begins within waits for the next. Without a sound device
+    // time passes here alone.
+    void (*update)(s32 pDeltaMs);
 };
 
 #endif
