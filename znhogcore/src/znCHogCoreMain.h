@@ -1,0 +1,55 @@
+#ifndef ZNHOGCORE_SRC_ZNCHOGCOREMAIN_H
+#define ZNHOGCORE_SRC_ZNCHOGCOREMAIN_H
+
+// The middle of the main object: puts the hidden-object factories and dispatcher in place, and owns the one rule by
+// which one screen follows another.
+//
+// A screen is a level, or a GUI file if its name contains ".txt". At most one is pending; it opens in the first frame
+// in which neither the main menu nor a level stands any more. Whoever asks for a screen starts the fade at whose end
+// the present one removes itself.
+
+#include "znappcore/src/znCAppCoreMain.h"
+
+class znCHogCoreMain : public znCAppCoreMain
+{
+public:
+    // Keys of the player's data.
+    static constexpr const char* CURRENT_LEVEL_KEY = "CurrLev";  // the screen to continue at
+    static constexpr const char* MAP_LEVEL_KEY = "mapLev";       // what the map offers next
+    static constexpr const char* FIRST_SCENE_KEY = "firstScene"; // of the application's settings
+    static constexpr const char* MAP = "map";
+    static constexpr const char* MAP_TO = "map->"; // and the level that the map is to offer
+    static constexpr const char* MAIN_MENU_FILE = "gui/mainMenu/mainMenu.txt";
+
+    // As the base's; null without an instance of this class.
+    static znCHogCoreMain* instanceGet();
+
+    // Makes pScreen the pending screen. The map with a target is just the map, which offers the target unless it has an
+    // offer already; going to the very level that it offers takes the offer away.
+    void nextScreenSet(const std::string& pScreen);
+    // The same, and play continues there after the next start.
+    void nextScreenAndCurrLevSet(const std::string& pScreen);
+    // Makes the scene of the application's settings the pending screen.
+    void firstSceneSet();
+
+    ~znCHogCoreMain() override = default;
+
+protected:
+    znCHogCoreMain() = default;
+
+    void messageDispatchersDestroy() override;
+    void messageDispatchersCreate() override;
+    void shutDownPrepare() override;
+    void factoriesDestroy() override;
+    void appUpdate(s32 pDeltaMs) override;
+    void factoriesCreate() override;
+    virtual void gameComponentsRegister(); // for the game's own component types
+    virtual void levelStart();             // opens the pending screen
+
+private:
+    void mapRuleApply();
+
+    std::string mNextScreen; // empty: none is pending
+};
+
+#endif

@@ -1,0 +1,41 @@
+#ifndef ZNHOGCORE_SRC_ZNCHOGMESSAGEDISPATCHER_H
+#define ZNHOGCORE_SRC_ZNCHOGMESSAGEDISPATCHER_H
+
+// The game's message bus: collection, completion, sub-scenes, reset of a level. Input and GUI events have their own.
+//
+// Lives from start-up to the very end of shut-down.
+
+#include "znappcore/znIMessageDispatcher.h"
+
+class znCHogMessageDispatcher : public znIMessageDispatcher
+{
+public:
+    // Payload of these: znCEmptyMessageData.
+    static constexpr znCUniqueId LEVEL_LOAD_COMP{"levelLoadComp"};   // the level stands and is placed
+    static constexpr znCUniqueId RESET_LEVEL{"resetLevel"};          // clear yourself
+    static constexpr znCUniqueId POST_RESET_LEVEL{"postResetLevel"}; // all collectables are clear
+    static constexpr znCUniqueId LEVEL_COMPLETE{"LevelComplete"};    // all requirements are met
+    static constexpr znCUniqueId CONTINUE_GAME{"continueGame"};      // on to the next screen
+    static constexpr znCUniqueId REPLAY_LEVEL{"replayLevel"};        // the same level again
+    static constexpr znCUniqueId CLOSE_TOP_SUB_SCENE{"CloseTopSubScene"};
+    static constexpr znCUniqueId SUB_EXIT_BUTTON_SHOW{"SubExitButtonShow"}; // a full-screen sub-scene has opened
+    // Payload: std::string.
+    static constexpr znCUniqueId CONVERSATION_COMPLETE{"conversationComplete"};          // the conversation's name
+    static constexpr znCUniqueId COLLECTION_EFFECT_COMPLETE{"CollectionEffectComplete"}; // the collected node's name
+    static constexpr znCUniqueId TASK_COMPLETE{"TaskComplete"};                          // the task's key
+    // Payload: znCEntity, the collected one.
+    static constexpr znCUniqueId COLLECTABLE_ENTITY_COLLECTED{"CollectableEntityCollected"};
+    // Payload: s32, the sub-scene's index.
+    static constexpr znCUniqueId OPEN_SUB_SCENE{"OpenSubScene"};
+
+    // A second call logs "Already created znCHogMessageDispatcher.\n" and starts anew.
+    static void create();
+    // Without an instance both log "Not created.\n"; instanceGet answers null then.
+    static znCHogMessageDispatcher* instanceGet();
+    static void destroy();
+
+private:
+    znCHogMessageDispatcher() = default;
+};
+
+#endif

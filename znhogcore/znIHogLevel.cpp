@@ -1,0 +1,160 @@
+#include "znhogcore/znIHogLevel.h"
+
+#include "znappcore/src/znCGuiMessageDispatcher.h"
+#include "znappcore/src/znCUserSavedData.h"
+#include "znappcore/znCEmptyMessageData.h"
+#include "zncore/debug/znIDebug.h"
+#include "zncore/znCResourceName.h"
+#include "zncore/znNCoreUtils.h"
+#include "znhogcore/components/znCHogLevelLoaderComponent.h"
+#include "znhogcore/components/znCSubSceneComponent.h"
+#include "znhogcore/src/znCHogCoreMain.h"
+#include "znhogcore/src/znCHogLevel.h"
+#include "znhogcore/src/znCHogMessageDispatcher.h"
+
+#include <algorithm>
+
+namespace
+{
+constexpr char SCENES_FOLDER[] = "scenes/";
+constexpr char TABLE_EXTENSION[] = ".txt";
+constexpr char NEXT_LEVEL_KEY[] = "ACT1NextLev"; // of the level's table
+constexpr char PLAY_TIME_KEY[] = "time";         // of the player's data: milliseconds in all levels
+constexpr s32 PLACING_STEP_MS = 1;
+} // namespace
+
+znIHogLevel::znIHogLevel() : znIMessageListenerEntity(NAME) {}
+
+void znIHogLevel::create(const std::string& pName)
+{
+    const bool standing = levelGet() != nullptr;
+    ZN_ASSERT(!standing, "Already created.\n");
+    if (standing)
+        return;
+    auto* level = new znCHogLevel; // owned by the tree
+    znCHogCoreMain::instanceGet()->appDisplayChildAdd(level);
+    level->messagesRegister();
+    level->levelLoad(pName);
+}
+
+znIHogLevel* znIHogLevel::levelGet()
+{
+    return dynamic_cast<znIHogLevel*>(znCHogCoreMain::instanceGet()->appDisplayChildFind(NAME));
+}
+
+void znIHogLevel::messagesRegister()
+{
+    znCGuiMessageDispatcher::instanceGet()->listenerRegister(FADE_OUT_COMPLETE, this);
+}
+
+void znIHogLevel::messagesDeregister()
+{
+    znCGuiMessageDispatcher::instanceGet()->listenerDeregister(FADE_OUT_COMPLETE, this);
+}
+
+bool znIHogLevel::messageProcess(const znCUniqueId& pType, void*)
+{
+    if (pType == FADE_OUT_COMPLETE)
+    {
+        stateSave();
+        destroy();
+    }
+    return false;
+}
+
+void znIHogLevel::update(s32 pDeltaMs)
+{
+    znIMessageListenerEntity::update(pDeltaMs);
+    mTimePlayedMs += pDeltaMs;
+}
+
+void znIHogLevel::shutDownStateFix() {}
+
+void znIHogLevel::skipDo() {}
+
+void znIHogLevel::levelInitialise() {}
+
+void znIHogLevel::postLoadDo() {}
+
+void znIHogLevel::levelLoad(const std::string& pName)
+{
+    mLevelName = pName;
+    mLevelFolder = SCENES_FOLDER + pName + "/";
+    const znCResourceName table(mLevelFolder + mLevelName + TABLE_EXTENSION, znCResourceName::GAME_DATA);
+    mVariables.fileLoad(table);
+    sceneLoad();
+    subScenesStore();
+    levelInitialise();
+    savedStateLoad();
+    znCUserSavedData::instanceGet()->strSet(znCHogCoreMain::CURRENT_LEVEL_KEY, mLevelName);
+    // Everything is placed before anyone hears that the level stands.
+    parentGet()->treeUpdate(PLACING_STEP_MS);
+    znCHogMessageDispatcher::instanceGet()->messageSend(znCHogMessageDispatcher::LEVEL_LOAD_COMP,
+                                                        znCEmptyMessageData::sharedGet());
+}
+
+void znIHogLevel::sceneLoad()
+{
+    componentAdd<znCHogLevelLoaderComponent>()->load(mLevelName, mLevelFolder);
+    componentRemove(znCHogLevelLoaderComponent::TYPE);
+}
+
+void znIHogLevel::subScenesStore()
+{
+    for (znCEntity* entity : entitiesWithComponentsGet({&typeid(znCSubSceneComponent)}))
+    {
+        const auto* subScene = entity->componentGet<znCSubSceneComponent>();
+        ZN_ASSERT(subScene != nullptr, "Expected a SubSceneComponent.\n");
+        ZN_ASSERT(subScene == nullptr || static_cast<std::size_t>(subScene->indexGet()) == mSubScenes.size(),
+                  "Code elsewhere assumes subscenes will be in order in this vector.\n");
+        mSubScenes.push_back(entity);
+    }
+    ZN_ASSERT(!mSubScenes.empty(), "There is no scene in the folder %s.\n", mLevelFolder.c_str());
+}
+
+void znIHogLevel::savedStateLoad()
+{
+    std::string state = znCUserSavedData::instanceGet()->strGet(SAVED_STATE_KEY + mLevelName);
+    if (!state.empty())
+        treeLoad(state);
+    postLoadDo();
+}
+
+void znIHogLevel::stateSave()
+{
+    std::string state;
+    treeSave(state);
+    znCUserSavedData* user = znCUserSavedData::instanceGet();
+    user->strSet(SAVED_STATE_KEY + mLevelName, state);
+    user->s32Set(PLAY_TIME_KEY, znNCoreUtils::s32Saturate(s64(user->s32Get(PLAY_TIME_KEY)) + mTimePlayedMs));
+}
+
+void znIHogLevel::levelStateStore()
+{
+    shutDownStateFix();
+    stateSave();
+}
+
+void znIHogLevel::levelSkip()
+{
+    mSkipped = true;
+    skipDo();
+}
+
+void znIHogLevel::levelQuit()
+{
+    znCHogCoreMain::instanceGet()->nextScreenSet(znCHogCoreMain::MAIN_MENU_FILE);
+}
+
+znCSubSceneComponent* znIHogLevel::currentSubSceneGet() const
+{
+    const auto open = std::find_if(mSubScenes.rbegin(), mSubScenes.rend(),
+                                   [](const znCEntity* pEntity) { return pEntity->activeInTreeGet(); });
+    ZN_ASSERT(open != mSubScenes.rend(), "Expected to find an active subscene.\n");
+    return open != mSubScenes.rend() ? (*open)->componentGet<znCSubSceneComponent>() : nullptr;
+}
+
+std::string znIHogLevel::nextLevelGet() const
+{
+    return mVariables.strGet(NEXT_LEVEL_KEY);
+}

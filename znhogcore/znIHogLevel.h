@@ -1,0 +1,72 @@
+#ifndef ZNHOGCORE_ZNIHOGLEVEL_H
+#define ZNHOGCORE_ZNIHOGLEVEL_H
+
+// The entity that stands for the scene on the screen: it loads the scene's folder, holds its sub-scenes and stores its
+// state in the player's data. There is at most one, named NAME, below the application's display node.
+//
+// A level lives until the first "FadeOutComplete" behind its opening: whoever begins a change of screen ends it.
+
+#include "znappcore/znIMessageListenerEntity.h"
+#include "zncore/src/znCVariableTable.h"
+
+class znCSubSceneComponent;
+
+class znIHogLevel : public znIMessageListenerEntity
+{
+public:
+    static constexpr const char* NAME = "HogLevel";
+    // Key of the player's data: the stored state of the level whose name stands behind it.
+    static constexpr const char* SAVED_STATE_KEY = "LevDat:";
+
+    // Opens the level of that name from its folder "scenes/" + pName + "/". With a level on the screen it logs
+    // "Already created.\n" and nothing more happens.
+    static void create(const std::string& pName);
+    static znIHogLevel* levelGet(); // null if none is open
+
+    void messagesRegister() override;
+    void messagesDeregister() override;
+    bool messageProcess(const znCUniqueId& pType, void* pData) override;
+    void update(s32 pDeltaMs) override;
+
+    virtual void shutDownStateFix(); // brings a level that was won into the state to store
+    virtual void skipDo();
+    virtual void levelInitialise(); // the scene's entities stand, nothing saved is restored yet
+    virtual void postLoadDo();      // what was saved is restored
+
+    void levelLoad(const std::string& pName);
+    void levelSkip();
+    void levelQuit(); // to the main menu
+    void levelStateStore();
+
+    // The topmost open sub-scene. Null, with "Expected to find an active subscene.\n", if none is open.
+    znCSubSceneComponent* currentSubSceneGet() const;
+    std::string nextLevelGet() const; // the screen behind this level, empty if the level's table names none
+    const znCVariableTable& variablesGet() const { return mVariables; } // the level's table
+    const std::string& folderGet() const { return mLevelFolder; }       // ends in "/"
+    const std::string& levelNameGet() const { return mLevelName; }
+    bool skippedGet() const { return mSkipped; }
+
+    // On the GUI dispatcher: the screen is dark.
+    static constexpr znCUniqueId FADE_OUT_COMPLETE{"FadeOutComplete"};
+
+    // A step of levelLoad().
+    void subScenesStore();
+
+protected:
+    znIHogLevel();
+
+    void stateSave();
+
+    std::vector<znCEntity*> mSubScenes; // by index; owned by the tree
+    std::string mLevelName;
+    std::string mLevelFolder;
+    znCVariableTable mVariables;
+    s32 mTimePlayedMs = 0; // in this opening of the level
+    bool mSkipped = false;
+
+private:
+    void sceneLoad();
+    void savedStateLoad();
+};
+
+#endif
