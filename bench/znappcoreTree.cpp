@@ -8,25 +8,7 @@
 #include <memory>
 #include <vector>
 
-namespace
-{
-constexpr std::size_t NODES = 2000;
-constexpr std::size_t CHILDREN_EACH = 8;
-constexpr std::size_t LISTENERS = 500;
-
-// A tree of NODES nodes in which the i-th hangs below node (i - 1) / CHILDREN_EACH.
-template <class Node, class Make>
-std::unique_ptr<Node> treeMake(const Make& pMake)
-{
-    std::vector<Node*> nodes{pMake()};
-    for (std::size_t i = 1; i < NODES; ++i)
-    {
-        nodes.push_back(pMake());
-        nodes[(i - 1) / CHILDREN_EACH]->childAdd(nodes.back());
-    }
-    return std::unique_ptr<Node>(nodes.front());
-}
-
+// In no unnamed namespace, and each with a second class below it: the compiler must not guess whom a call reaches.
 class BareNode
 {
 public:
@@ -35,7 +17,7 @@ public:
         for (BareNode* child : mChildren)
             delete child;
     }
-    virtual void update(s32 pDeltaMs) { benchmark::DoNotOptimize(pDeltaMs); }
+    [[gnu::noinline]] virtual void update(s32 pDeltaMs) { benchmark::DoNotOptimize(pDeltaMs); }
     void childAdd(BareNode* pChild) { mChildren.push_back(pChild); }
     void treeUpdate(s32 pDeltaMs)
     {
@@ -49,6 +31,51 @@ private:
     char mRoomOfANode[sizeof(znINode) - sizeof(std::vector<BareNode*>)] = {};
 };
 
+class BareOtherNode : public BareNode
+{
+public:
+    [[gnu::noinline]] void update(s32 pDeltaMs) override { benchmark::DoNotOptimize(&pDeltaMs); }
+};
+
+class Declines : public znIMessageListener
+{
+public:
+    void messagesRegister() override {}
+    void messagesDeregister() override {}
+    [[gnu::noinline]] bool messageProcess(const znCUniqueId& pType, void*) override
+    {
+        return pType == znCUniqueId("a");
+    }
+};
+
+class DeclinesToo : public Declines
+{
+public:
+    [[gnu::noinline]] bool messageProcess(const znCUniqueId& pType, void*) override
+    {
+        return pType == znCUniqueId("b");
+    }
+};
+
+namespace
+{
+constexpr std::size_t NODES = 2000;
+constexpr std::size_t CHILDREN_EACH = 8;
+constexpr std::size_t LISTENERS = 500;
+
+// A tree of NODES nodes in which the i-th hangs below node (i - 1) / CHILDREN_EACH.
+template <class Node, class Make>
+std::unique_ptr<Node> treeMake(Make pMake)
+{
+    std::vector<Node*> nodes{pMake()};
+    for (std::size_t i = 1; i < NODES; ++i)
+    {
+        nodes.push_back(pMake());
+        nodes[(i - 1) / CHILDREN_EACH]->childAdd(nodes.back());
+    }
+    return std::unique_ptr<Node>(nodes.front());
+}
+
 void StillTreeUpdate_ours(benchmark::State& pState)
 {
     const auto root = treeMake<znINode>([] { return new znINode("node"); });
@@ -60,7 +87,8 @@ BENCHMARK(StillTreeUpdate_ours);
 
 void StillTreeUpdate_reference(benchmark::State& pState)
 {
-    const auto root = treeMake<BareNode>([] { return new BareNode; });
+    const auto root = treeMake<BareNode>(
+        [i = 0]() mutable { return ++i % 2 == 0 ? new BareNode : static_cast<BareNode*>(new BareOtherNode); });
     for (auto _ : pState)
         root->treeUpdate(16);
 }
@@ -95,21 +123,26 @@ void TreeLoad_ours(benchmark::State& pState)
 }
 BENCHMARK(TreeLoad_ours)->Arg(1000)->Arg(10000)->Arg(100000)->Complexity(benchmark::oN);
 
-class Declines : public znIMessageListener
+using Listeners = std::vector<std::unique_ptr<Declines>>;
+
+Listeners listenersMake()
 {
-public:
-    void messagesRegister() override {}
-    void messagesDeregister() override {}
-    bool messageProcess(const znCUniqueId& pType, void*) override { return pType == znCUniqueId("other"); }
-};
+    Listeners listeners;
+    for (std::size_t i = 0; i < LISTENERS; ++i)
+        if (i % 2 == 0)
+            listeners.push_back(std::make_unique<Declines>());
+        else
+            listeners.push_back(std::make_unique<DeclinesToo>());
+    return listeners;
+}
 
 void Press_ours(benchmark::State& pState)
 {
     const znCUniqueId press("press");
-    std::vector<Declines> listeners(LISTENERS);
+    const Listeners listeners = listenersMake();
     znIMessageDispatcher dispatcher;
-    for (Declines& listener : listeners)
-        dispatcher.listenerRegister(press, &listener);
+    for (const auto& listener : listeners)
+        dispatcher.listenerRegister(press, listener.get());
     for (auto _ : pState)
         benchmark::DoNotOptimize(dispatcher.messageSend(press, nullptr));
 }
@@ -118,10 +151,10 @@ BENCHMARK(Press_ours);
 void Press_reference(benchmark::State& pState)
 {
     const znCUniqueId press("press");
-    std::vector<Declines> listeners(LISTENERS);
+    const Listeners listeners = listenersMake();
     std::vector<znIMessageListener*> pointers;
-    for (Declines& listener : listeners)
-        pointers.push_back(&listener);
+    for (const auto& listener : listeners)
+        pointers.push_back(listener.get());
     for (auto _ : pState)
     {
         bool consumed = false;

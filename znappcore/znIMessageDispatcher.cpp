@@ -12,30 +12,37 @@ bool znIMessageDispatcher::messageSend(const znCUniqueId& pType, void* pData)
     const auto listeners = mListeners.find(pType);
     if (listeners == mListeners.end())
         return false;
-    Walk walk{&listeners->second, listeners->second.size(), mWalks};
+    Walk walk{&listeners->second, listeners->second.size(), false, mWalks};
     mWalks = &walk;
     const bool consumed = deliver(walk, pData, pType);
     mWalks = walk.mOuter;
     return consumed;
 }
 
-// Goes by place and looks at the list anew after each call, since a listener may register and deregister others.
+// Goes by place, kept where walksShift() finds it, and looks at the list anew when a listener has changed it.
 bool znIMessageDispatcher::deliver(Walk& pWalk, void* pData, const znCUniqueId& pType)
 {
     bool priorityListenerDue = mPriorityListener != nullptr;
-    while (pWalk.mRemaining > 0)
+    znIMessageListener* const* listeners = pWalk.mListeners->data();
+    std::size_t remaining = pWalk.mRemaining;
+    while (remaining > 0)
     {
-        znIMessageListener* listener = (*pWalk.mListeners)[pWalk.mRemaining - 1];
+        znIMessageListener* listener = listeners[remaining - 1];
         if (priorityListenerDue && listener->priorityGet() == 0)
         {
+            // It has no place of its own; the listener above is looked for again behind it.
             priorityListenerDue = false;
-            if (mPriorityListener != nullptr && mPriorityListener->messageProcess(pType, pData))
-                return true;
-            continue;
+            listener = mPriorityListener;
         }
-        --pWalk.mRemaining;
-        if (listener->messageProcess(pType, pData))
+        else
+            pWalk.mRemaining = --remaining;
+        if (listener != nullptr && listener->messageProcess(pType, pData))
             return true;
+        if (!pWalk.mChanged) [[likely]]
+            continue;
+        pWalk.mChanged = false;
+        listeners = pWalk.mListeners->data();
+        remaining = pWalk.mRemaining;
     }
     return false;
 }
@@ -44,8 +51,13 @@ bool znIMessageDispatcher::deliver(Walk& pWalk, void* pData, const znCUniqueId& 
 void znIMessageDispatcher::walksShift(const Listeners& pListeners, std::size_t pPlace, bool pInserted)
 {
     for (Walk* walk = mWalks; walk != nullptr; walk = walk->mOuter)
-        if (walk->mListeners == &pListeners && pPlace < walk->mRemaining)
+    {
+        if (walk->mListeners != &pListeners)
+            continue;
+        walk->mChanged = true;
+        if (pPlace < walk->mRemaining)
             walk->mRemaining += pInserted ? 1 : -1;
+    }
 }
 
 void znIMessageDispatcher::listenerRegister(const znCUniqueId& pType, znIMessageListener* pListener)

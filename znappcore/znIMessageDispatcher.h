@@ -45,6 +45,7 @@ private:
     {
         const Listeners* mListeners;
         std::size_t mRemaining; // entries below this place are still to be asked
+        bool mChanged;          // the list has changed since the last look at it
         Walk* mOuter;
     };
 

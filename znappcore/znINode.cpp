@@ -461,7 +461,8 @@ void znINode::treeUpdate(s32 pDeltaMs)
     for (std::size_t i = 0; i < mChildren.size(); ++i)
         mChildren[i]->treeUpdate(pDeltaMs);
     mInUpdate = false;
-    matrixRefresh();
+    if (mDirtyBelow)
+        matrixRefresh();
 }
 
 void znINode::treeRender()

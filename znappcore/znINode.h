@@ -131,19 +131,28 @@ protected:
     // Deletes all children, for a class whose children must go while it is still whole.
     void childrenDelete();
 
+    // What the walks over a still tree look at comes first, within one cache line.
     std::vector<znINode*> mChildren; // owned: deleted in the destructor; paint order
     znINode* mParent = nullptr;
+    float mRotation = 0.0f;
+    float mRotationTarget = 0.0f; // the node turns while it differs from mRotation
+    bool mInUpdate = false;       // the children are being walked by treeUpdate
+    bool mActive = true;
+    bool mMatrixDirty = false;
+
+private:
+    // This node or one below it is dirty; set in all nodes above a dirty one, so that still subtrees cost nothing.
+    bool mDirtyBelow = false;
+    s32 mFlaggedIndex = -1; // place among the flagged nodes
+    s32 mNewNodesCount = 0; // pairs of the new nodes that this node stands in
+
+protected:
     std::string mName;
     znAffineMtx2d mLocalMatrix;
     znAffineMtx2d mWorldMatrix;
-    bool mInUpdate = false; // the children are being walked by treeUpdate
-    bool mActive = true;
-    bool mMatrixDirty = false;
     znPoint mPos{0, 0};
     float mScaleX = 1.0f;
     float mScaleY = 1.0f;
-    float mRotation = 0.0f;
-    float mRotationTarget = 0.0f; // the node turns while it differs from mRotation
     float mRotationDirection = 1.0f;
     float mRotationSpeed = 0.0f; // radians per millisecond
 
@@ -157,11 +166,6 @@ private:
     std::string saveKeyGet() const;
     std::string sectionCut(std::string& pIn, std::size_t& pCursor) const;
     void treeLoadFrom(std::string& pIn, std::size_t& pCursor);
-
-    // This node or one below it is dirty; set in all nodes above a dirty one, so that still subtrees cost nothing.
-    bool mDirtyBelow = false;
-    s32 mFlaggedIndex = -1; // place among the flagged nodes
-    s32 mNewNodesCount = 0; // pairs of the new nodes that this node stands in
 };
 
 #endif
