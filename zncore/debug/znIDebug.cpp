@@ -9,6 +9,7 @@
 namespace
 {
 znIDebug* sInstance = nullptr; // deleted by destroy()
+u32 sFailureCount = 0;
 
 constexpr const char* LINE_END = "\r\n";
 constexpr const char* LOG_FULL = "The log is full; nothing more is written.\r\n";
@@ -98,6 +99,11 @@ znIDebug::~znIDebug()
     mLogFile->close();
 }
 
+u32 znIDebug::failureCountGet()
+{
+    return sFailureCount;
+}
+
 void znIDebug::textWrite(const std::string& pText)
 {
     // The file would report that it isn't open, through this very log.
@@ -124,6 +130,7 @@ std::string znIDebug::methodNameGet(const char* pFunction)
 
 void znIDebug::assertionReport(const char* pFile, s32 pLine, const char* pFunction, const char* pFormat, ...)
 {
+    ++sFailureCount;
     if (sInstance == nullptr)
         return;
     char message[MESSAGE_SIZE];

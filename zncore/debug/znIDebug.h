@@ -35,6 +35,10 @@ public:
     // No line ending is added.
     void textWrite(const std::string& pText);
 
+    // How many checks have failed so far, also without a log: who reads a file can tell whether a part of it has failed
+    // somewhere below.
+    static u32 failureCountGet();
+
     // What the macros call. pFunction is the compiler's pretty name of the function.
     static void assertionReport(const char* pFile, s32 pLine, const char* pFunction, const char* pFormat, ...)
         __attribute__((cold, noinline, format(printf, 4, 5)));
