@@ -120,7 +120,7 @@ bool znCVariableTable::keyExistsGet(const std::string& pKey) const
 
 void znCVariableTable::strSet(const std::string& pKey, const std::string& pValue)
 {
-    entrySet(std::string(pKey), std::string(pValue));
+    mEntries.insert_or_assign(lowerGet(pKey), pValue);
 }
 
 void znCVariableTable::s32Set(const std::string& pKey, s32 pValue)
@@ -202,6 +202,8 @@ const char* znCVariableTable::entriesParse(const char* pBegin, const char* pEnd)
 {
     const char* cutOff = nullptr;
     std::string key;
+    // Saved files come in key order, and most others in runs of it: each entry is tried behind the one before it.
+    auto hint = mEntries.end();
     for (const char* pos = pBegin; pos < pEnd;)
     {
         const char* entryBegin = pos;
@@ -218,8 +220,9 @@ const char* znCVariableTable::entriesParse(const char* pBegin, const char* pEnd)
         if (quoted)
             pos = std::find(pos, pEnd, ',');
         pos += quoted && pos < pEnd;
+        znStr::toLower(key);
         if (!key.starts_with(COMMENT_START))
-            entrySet(std::move(key), std::move(value));
+            hint = std::next(mEntries.insert_or_assign(hint, std::move(key), std::move(value)));
         // In the plain form this is the comma, in the quoted one the line end behind it.
         pos += pos < pEnd;
     }
@@ -232,14 +235,4 @@ void znCVariableTable::copyToTerminator(const char*& pPos, bool pQuoted, std::st
     pOut.append(pPos, terminator);
     pPos = terminator;
     ZN_ASSERT(pPos != pEnd, "Passed the end of the file. Did you miss a \" or a , ?");
-}
-
-void znCVariableTable::entrySet(std::string&& pKey, std::string&& pValue)
-{
-    znStr::toLower(pKey);
-    // Files that were saved come in key order: these go in at the end without a search.
-    if (mEntries.empty() || mEntries.rbegin()->first < pKey)
-        mEntries.emplace_hint(mEntries.end(), std::move(pKey), std::move(pValue));
-    else
-        mEntries.insert_or_assign(std::move(pKey), std::move(pValue));
 }

@@ -87,7 +87,6 @@ private:
     const std::string* valueFind(const std::string& pKey) const;
     // Where the entry begins that the end of the text cut off; null if none was.
     const char* entriesParse(const char* pBegin, const char* pEnd);
-    void entrySet(std::string&& pKey, std::string&& pValue);
 };
 
 #endif
