@@ -1,0 +1,291 @@
+#!/usr/bin/python3
+"""Makes the pictures of a scene: renders it, cuts its things out and writes what the game reads.
+
+    tools/scene.py preview SCENE          683 x 384, everything in place, to look at (work/SCENE/preview.png)
+    tools/scene.py masks SCENE [NUMBER...] silhouettes of the things, nine samples a pixel (of these things alone, the room being as it was)
+    tools/scene.py bare SCENE             the room without its things, full size (the long step; goes on where it stopped)
+    tools/scene.py full SCENE             the same with them, only in the rectangles around them (needs the masks)
+    tools/scene.py cut SCENE              grades both, cuts every thing out, writes ../data/scenes/SCENE
+    tools/scene.py check SCENE            pastes what was written back together and compares it with the render
+
+Run from art/.  scenes/SCENE/SCENE.tsv lists the things in drawing order: number in things.inc, entry name, page (p0, p1, ...) or loose.
+"""
+import os
+import subprocess
+import sys
+
+import numpy as np
+from PIL import Image
+from scipy.ndimage import binary_dilation, binary_fill_holes, distance_transform_edt, gaussian_filter
+
+WIDTH, HEIGHT = 1366, 768
+FINE = 3         # samples a side of a pixel in a silhouette
+COARSE = 4       # the rectangles are searched in a picture this much smaller
+SHADOW = 4.0     # a thing keeps its contact shadow this far beyond its outline: what is drawn can be hit
+PAGE = 2048
+THREADS = os.environ.get('THREADS', '2')
+
+
+def things(scene):
+    rows = []
+    for line in open(f'scenes/{scene}/{scene}.tsv'):
+        if line.strip() and not line.startswith('#'):
+            number, name, where = line.split()
+            rows.append((int(number), name, where))
+    return rows
+
+
+def povray(scene, out, width, height, *options, **declared):
+    command = ['nice', '-n', '15', 'povray', f'scenes/{scene}/{scene}.pov', '-D', '+L.', f'+W{width}', f'+H{height}', f'+O{out}', f'+WT{THREADS}', *options]
+    command += [f'Declare={key}={value}' for key, value in declared.items()]
+    result = subprocess.run(command, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True, errors='replace')
+    if result.returncode:
+        lines = [line for line in result.stderr.splitlines() if 'Error' in line]
+        sys.exit('\n'.join(lines) or result.stderr[-400:])
+
+
+def pixels(path):
+    return np.asarray(Image.open(path).convert('RGB')).astype(np.float64) / 255
+
+
+def preview(scene):
+    povray(scene, f'work/{scene}/preview.png', WIDTH // 2, HEIGHT // 2, BOUNCE=1)
+
+
+def bounds(mask, margin, width, height):
+    ys, xs = np.nonzero(mask)
+    return max(0, xs.min() - margin), max(0, ys.min() - margin), min(width, xs.max() + 1 + margin), min(height, ys.max() + 1 + margin)
+
+
+def masks(scene, only=()):
+    work = f'work/{scene}'
+    quick = ('+Q1', '-A')
+    cw, ch = WIDTH // COARSE, HEIGHT // COARSE
+    if not only or not os.path.exists(f'{work}/fine.png'):
+        povray(scene, f'{work}/coarse.png', cw, ch, *quick, SHOW=0)
+        povray(scene, f'{work}/fine.png', WIDTH * FINE, HEIGHT * FINE, *quick, SHOW=0)
+    coarse, fine = pixels(f'{work}/coarse.png'), pixels(f'{work}/fine.png')
+    for number, name, _ in things(scene):
+        if only and number not in only:
+            continue
+        povray(scene, f'{work}/thing{number}.png', cw, ch, *quick, SHOW=number)
+        seen = np.abs(pixels(f'{work}/thing{number}.png') - coarse).max(2) > 0
+        if not seen.any():
+            sys.exit(f'{name}: not seen in the picture')
+        x0, y0, x1, y1 = (int(v) for v in bounds(seen, 3, cw, ch))
+        x0, x1, y0, y1 = x0 * WIDTH // cw, min(WIDTH, -(-x1 * WIDTH // cw)), y0 * HEIGHT // ch, min(HEIGHT, -(-y1 * HEIGHT // ch))
+        povray(scene, f'{work}/thing{number}.png', WIDTH * FINE, HEIGHT * FINE, *quick, f'+SC{x0 * FINE + 1}', f'+SR{y0 * FINE + 1}', f'+EC{x1 * FINE}', f'+ER{y1 * FINE}', SHOW=number)
+        part = np.s_[y0 * FINE:y1 * FINE, x0 * FINE:x1 * FINE]
+        hit = np.abs(pixels(f'{work}/thing{number}.png')[part] - fine[part]).max(2) > 0
+        cover = hit.reshape(y1 - y0, FINE, x1 - x0, FINE).mean((1, 3))
+        os.remove(f'{work}/thing{number}.png')
+        whole = np.zeros((HEIGHT, WIDTH))
+        whole[y0:y1, x0:x1] = cover
+        Image.fromarray((whole * 255 + .5).astype('uint8')).save(f'{work}/mask{number}.png')
+        print(number, name, 'x', x0, 'y', y0, 'pixels', int(whole.sum()), flush=True)
+
+
+FINAL = ('+A0.25', '+AM2', '+R2')
+
+
+def bare(scene):
+    work = f'work/{scene}'
+    povray(scene, f'{work}/bare.png', WIDTH, HEIGHT, *FINAL, '+C', f'+RF{work}/bounce.rca', '+RFO', SHOW=0, BOUNCE=1)
+
+
+def join(boxes):
+    """Boxes that touch become one, as long as that doesn't add much to render."""
+    boxes, again = list(boxes), True
+    area = lambda b: (b[2] - b[0]) * (b[3] - b[1])
+    while again:
+        again = False
+        for i, a in enumerate(boxes):
+            for b in boxes[i + 1:]:
+                both = (min(a[0], b[0]), min(a[1], b[1]), max(a[2], b[2]), max(a[3], b[3]))
+                if area(both) < (area(a) + area(b)) * 1.05 + 2500:
+                    boxes.remove(a)
+                    boxes.remove(b)
+                    boxes.append(both)
+                    again = True
+                    break
+            if again:
+                break
+    return boxes
+
+
+def full(scene):
+    """The room with its things: only the rectangles around them differ from the bare room."""
+    work = f'work/{scene}'
+    picture = Image.open(f'{work}/bare.png').convert('RGB')
+    boxes = []
+    for number, _, _ in things(scene):
+        mask = np.asarray(Image.open(f'{work}/mask{number}.png'))
+        boxes.append(tuple(int(v) for v in bounds(mask > 0, 8, WIDTH, HEIGHT)))
+    os.makedirs(f'{work}/parts', exist_ok=True)
+    for box in join(boxes):
+        x0, y0, x1, y1 = box
+        part = f'{work}/parts/{x0}-{y0}-{x1}-{y1}.png'
+        if not os.path.exists(part):
+            povray(scene, f'{work}/part.png', WIDTH, HEIGHT, *FINAL, f'+RF{work}/bounce.rca', '+RFI', f'+SC{x0 + 1}', f'+SR{y0 + 1}', f'+EC{x1}', f'+ER{y1}', SHOW=-1, BOUNCE=1)
+            Image.open(f'{work}/part.png').convert('RGB').crop(box).save(part)
+            print(part, flush=True)
+        picture.paste(Image.open(part), (x0, y0))
+    picture.save(f'{work}/full.png')
+
+
+def grade(source, target):
+    subprocess.check_call(['tools/grade', source, target])
+
+
+def sprite(full, bare, cover):
+    """Colour and alpha of one thing: its own coverage, and close to its outline the shadow that it throws."""
+    solid = cover > 0
+    distance = distance_transform_edt(~solid)
+    light = gaussian_filter(full.mean(2), 1.0) / (gaussian_filter(bare.mean(2), 1.0) + .01)
+    shadow = np.clip(1 - light, 0, .85) * np.clip(1 - (distance - 1) / SHADOW, 0, 1) * (distance <= SHADOW) * (~solid)
+    shadow[shadow < .04] = 0
+    alpha = np.where(solid, cover, shadow)
+    alpha = np.round(alpha * 255) / 255
+    a = np.maximum(alpha, 1 / 255)[..., None]
+    colour = np.clip((full - (1 - a) * bare) / a, 0, 1)      # what, laid over the bare room, gives the full one again
+    edge = solid & (cover < .5)
+    colour[edge] = np.clip(colour[edge], full[edge] * .35, full[edge] * 1.6 + .12)
+    colour = np.where((solid & (alpha > 0))[..., None], colour, 0)
+    return colour, alpha
+
+
+def pack(sizes):
+    """Shelves: tallest first; two pixels of air around each, so that filtering never meets a neighbour."""
+    places, x, y, shelf = {}, 2, 2, 0
+    for name, (w, h) in sorted(sizes.items(), key=lambda item: (-item[1][1], item[0])):
+        if x + w + 2 > PAGE:
+            x, y, shelf = 2, y + shelf + 2, 0
+        places[name] = (x, y)
+        x, shelf = x + w + 2, max(shelf, h)
+    height = y + shelf + 2
+    if height > PAGE:
+        sys.exit('the page is full: use a further one')
+    width = max(places[name][0] + sizes[name][0] for name in sizes) + 2
+    return places, (width + width % 2, height + height % 2)
+
+
+def squeeze(path):
+    before = os.path.getsize(path)
+    subprocess.call(['pngquant', '--force', '--quality', '88-100', '--speed', '1', '--output', path, path])
+    subprocess.check_call(['optipng', '-quiet', '-o2', path])
+    print(path, before, '->', os.path.getsize(path))
+
+
+def cut(scene):
+    work, target = f'work/{scene}', f'../data/scenes/{scene}'
+    os.makedirs(target, exist_ok=True)
+    for name in ('bare', 'full'):
+        grade(f'{work}/{name}.png', f'{work}/{name}_graded.png')
+    empty, dressed = pixels(f'{work}/bare_graded.png'), pixels(f'{work}/full_graded.png')
+    background = f'Background{scene.capitalize()}.jpg'
+    Image.open(f'{work}/bare_graded.png').convert('RGB').save(f'{target}/{background.lower()}', quality=91, subsampling=0, optimize=True)
+    coords, pages, images = [(background, 0, 0)], {}, {}
+    for number, name, where in things(scene):
+        cover = np.asarray(Image.open(f'{work}/mask{number}.png')).astype(np.float64) / 255
+        cover[cover < .12] = 0
+        colour, alpha = sprite(dressed, empty, cover)
+        x0, y0, x1, y1 = (int(v) for v in bounds(alpha > 0, 1, WIDTH, HEIGHT))
+        x0, y0 = x0 - (x1 - x0) % 2 if x0 else x0, y0 - (y1 - y0) % 2 if y0 else y0     # even sizes keep the centre on a pixel corner
+        x1, y1 = x1 + (x1 - x0) % 2, y1 + (y1 - y0) % 2
+        x1, y1 = min(x1, WIDTH), min(y1, HEIGHT)
+        picture = np.dstack([colour, alpha])[y0:y1, x0:x1]
+        images[name] = Image.fromarray((picture * 255 + .5).astype('uint8'), 'RGBA')
+        coords.append((name, (x0 + x1) // 2 - WIDTH // 2, (y0 + y1) // 2 - HEIGHT // 2))
+        pages.setdefault(where, []).append(name)
+        if (x1 - x0) % 2 or (y1 - y0) % 2:
+            sys.exit(f'{name}: odd size')
+    for where, names in pages.items():
+        if where == 'loose':
+            for name in names:
+                images[name].save(f'{target}/{name.lower()}')
+                squeeze(f'{target}/{name.lower()}')
+            continue
+        places, size = pack({name: images[name].size for name in names})
+        sheet = Image.new('RGBA', size)
+        for name in names:
+            sheet.paste(images[name], places[name])
+        page = f'scenes/{scene}/texturepage{where[1:]}'
+        sheet.save(f'../data/{page}.png')
+        squeeze(f'../data/{page}.png')
+        with open(f'../data/{page}.txt', 'w', newline='') as file:
+            file.write(f'{page}.png\r\n')
+            for name in names:
+                (x, y), (w, h) = places[name], images[name].size
+                file.write(f'scenes/{scene}/{name.lower()},{x},{y},{w},{h}\n')
+    with open(f'{target}/coords.txt', 'w', newline='') as file:
+        file.writelines(f'{name},{x},{y}\n' for name, x, y in coords)
+
+
+def read(scene):
+    """What the game would load: name, left, top, picture, in drawing order."""
+    folder = f'../data/scenes/{scene}'
+    brushes, page = {}, 0
+    while os.path.exists(f'{folder}/texturepage{page}.txt'):
+        lines = open(f'{folder}/texturepage{page}.txt', newline='').read().split('\n')
+        sheet = Image.open('../data/' + lines[0].rstrip('\r')).convert('RGBA')
+        for line in filter(None, lines[1:]):
+            name, x, y, w, h = line.split(',')
+            brushes[name] = sheet.crop((int(x), int(y), int(x) + int(w), int(y) + int(h)))
+        page += 1
+    for line in open(f'{folder}/coords.txt'):
+        name, x, y = line.rstrip('\n').split(',')
+        key = f'scenes/{scene}/{name.lower()}'
+        picture = brushes.get(key) or Image.open('../data/' + key).convert('RGBA')
+        yield name, int(x) + WIDTH // 2 - picture.width // 2, int(y) + HEIGHT // 2 - picture.height // 2, picture
+
+
+def check(scene):
+    dressed = pixels(f'work/{scene}/full_graded.png')
+    paste, faults, list_ = None, 0, list(read(scene))
+    for name, x, y, picture in list_:
+        if picture.width % 2 or picture.height % 2:
+            print(name, 'has an odd size')
+            faults += 1
+        if paste is None:
+            paste = Image.new('RGBA', (WIDTH, HEIGHT))
+        layer = Image.new('RGBA', (WIDTH, HEIGHT))
+        layer.paste(picture, (x, y))
+        paste = Image.alpha_composite(paste, layer)
+    paste.convert('RGB').save(f'work/{scene}/pasted.png')
+    result = np.asarray(paste.convert('RGB')).astype(np.float64) / 255
+    outlines = {}
+    for name, x, y, picture in list_[1:]:
+        alpha = np.asarray(picture)[..., 3]
+        mask = np.zeros((HEIGHT, WIDTH), bool)
+        mask[y:y + picture.height, x:x + picture.width] = alpha > 200
+        off = np.abs(result - dressed).max(2)[mask]
+        w, h = picture.size
+        outlines[name] = mask
+        word = ''
+        if np.mean(off) > .03:
+            word, faults = '  differs from the render', faults + 1
+        if not name.split('-')[0].isupper():
+            word += '  (decoration)'
+        elif max(w, h) < 60:
+            word, faults = word + '  too small', faults + 1
+        print(f'{name:32s} {w:4d} x {h:4d}  {int(mask.sum()):6d} px  mean difference {np.mean(off):.4f}{word}')
+    names = list(outlines)
+    for i, a in enumerate(names):
+        for b in names[i + 1:]:
+            both = (outlines[a] & outlines[b]).sum()
+            if both > 12:
+                print(a, 'and', b, 'overlap by', both)
+                faults += 1
+    print('faults:', faults)
+    return faults
+
+
+STEPS = {'preview': preview, 'masks': masks, 'bare': bare, 'full': full, 'cut': cut, 'check': check}
+
+if __name__ == '__main__':
+    step, name = sys.argv[1:3]
+    os.makedirs(f'work/{name}', exist_ok=True)
+    if step == 'masks':
+        masks(name, {int(v) for v in sys.argv[3:]})
+    else:
+        sys.exit(STEPS[step](name) or 0)
