@@ -16,7 +16,6 @@ DATA = os.path.join(HERE, "..", "..", "data")
 WORK = os.path.join(HERE, "..", "work", "gui")
 
 INK = "#1a0f06"
-CREAM = "#f6e7c1"
 
 DEFS = """
 <linearGradient id="brass" x1="0" y1="0" x2="0.35" y2="1"><stop offset="0" stop-color="#fff3c6"/><stop offset=".2" stop-color="#e6bd66"/><stop offset=".5" stop-color="#9a6a26"/><stop offset=".58" stop-color="#bf8d3c"/><stop offset=".8" stop-color="#e8c777"/><stop offset="1" stop-color="#6f4714"/></linearGradient>

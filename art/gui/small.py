@@ -7,7 +7,7 @@ import os
 import numpy as np
 from PIL import Image
 
-from kit import CREAM, DATA, INK, pack, raster, save
+from kit import DATA, INK, pack, raster, save
 
 
 def strip(name, frames, time, registration, loop=True, colours=256):
@@ -32,16 +32,16 @@ def strip(name, frames, time, registration, loop=True, colours=256):
 
 def cursor():
     """A quill: white feather, brass nib; the nib's point is the hot spot, pixel (2, 2)."""
-    feather = "M12 13.500Q15 9.500 21 12.500Q27 15.500 31.500 20.500L33 19.500Q42 30 45.500 45Q46 46.500 44 45.800Q39 44 35.500 41L36 43.500Q29.500 41 24.500 36.500L24.300 39Q17 33.500 13.800 26L12 26.500Q10.500 19 12 13.500Z"
-    body = f'<g filter="url(#shadow)"><path d="{feather}" fill="url(#vane)" stroke="{INK}" stroke-width="1.500" stroke-linejoin="round"/>'
-    body += f'<path d="M2 2L8 13.800L11 15.500L14.800 14.200L15.800 11L13.800 8Z" fill="url(#brass)" stroke="{INK}" stroke-width="1.400" stroke-linejoin="round"/></g>'
+    feather = "M12 13.500Q15 9.5 21 12.500Q27 15.5 31.5 20.500L33 19.500Q42 30 45.5 45Q46 46.5 44 45.800Q39 44 35.5 41L36 43.500Q29.500 41 24.5 36.500L24.300 39Q17 33.5 13.8 26L12 26.500Q10.500 19 12 13.500Z"
+    body = f'<g filter="url(#shadow)"><path d="{feather}" fill="url(#vane)" stroke="{INK}" stroke-width="1.5" stroke-linejoin="round"/>'
+    body += f'<path d="M2 2L8 13.800L11 15.500L14.800 14.200L15.800 11L13.800 8Z" fill="url(#brass)" stroke="{INK}" stroke-width="1.4" stroke-linejoin="round"/></g>'
     for i in range(9):
         t = i / 8
         x, y = 16 + 24 * t, 15 + 24 * t
-        body += f'<path d="M{x:.1f} {y:.1f}Q{x - .5:.1f} {y + 4:.1f} {x - 1 + t:.1f} {y + 7 - 5 * abs(t - .4):.1f}M{x:.1f} {y:.1f}Q{x + 3:.1f} {y:.1f} {x + 5 - 4 * abs(t - .45):.1f} {y - 1 + t * 2:.1f}" stroke="#8fa4b2" stroke-width=".700" fill="none" opacity=".800"/>'
-    body += '<path d="M12.500 12.500Q26 24 42.500 42.500" stroke="#b88a3e" stroke-width="1.900" fill="none"/><path d="M12.500 12Q26 23.500 42 41.800" stroke="#fff3cf" stroke-width=".800" fill="none"/>'
-    body += f'<path d="M2.600 2.600L9.500 10.300" stroke="{INK}" stroke-width="1"/><circle cx="9.800" cy="10.600" r="1.100" fill="{INK}"/>'
-    vane = '<linearGradient id="vane" x1="0.900" y1="0.100" x2="0.200" y2="0.900"><stop offset="0" stop-color="#ffffff"/><stop offset=".480" stop-color="#eef3f5"/><stop offset=".520" stop-color="#cfdae0"/><stop offset="1" stop-color="#9fb1bd"/></linearGradient>'
+        body += f'<path d="M{x:.1f} {y:.1f}Q{x - .5:.1f} {y + 4:.1f} {x - 1 + t:.1f} {y + 7 - 5 * abs(t - .4):.1f}M{x:.1f} {y:.1f}Q{x + 3:.1f} {y:.1f} {x + 5 - 4 * abs(t - .45):.1f} {y - 1 + t * 2:.1f}" stroke="#8fa4b2" stroke-width=".7" fill="none" opacity=".8"/>'
+    body += '<path d="M12.500 12.500Q26 24 42.5 42.5" stroke="#b88a3e" stroke-width="1.9" fill="none"/><path d="M12.500 12Q26 23.5 42 41.8" stroke="#fff3cf" stroke-width=".8" fill="none"/>'
+    body += f'<path d="M2.600 2.600L9.500 10.3" stroke="{INK}" stroke-width="1"/><circle cx="9.8" cy="10.6" r="1.1" fill="{INK}"/>'
+    vane = '<linearGradient id="vane" x1="0.9" y1="0.1" x2="0.2" y2="0.9"><stop offset="0" stop-color="#ffffff"/><stop offset=".48" stop-color="#eef3f5"/><stop offset=".52" stop-color="#cfdae0"/><stop offset="1" stop-color="#9fb1bd"/></linearGradient>'
     strip("cursors/software/default", [raster(48, 48, body, vane)], 1000, (2, 2))
 
 
@@ -70,7 +70,7 @@ def touch_mask():
 def particles():
     x, y, r = radius_grid(64)
     edge = 1 - smooth(r, 0.86, 0.99)
-    pack(white((np.exp(-(r / 0.10) ** 2) + 0.75 * np.exp(-np.abs(x) / 0.035 - np.abs(y) / 0.22)
+    pack(white((np.exp(-(r / 0.1) ** 2) + 0.75 * np.exp(-np.abs(x) / 0.035 - np.abs(y) / 0.22)
                 + 0.75 * np.exp(-np.abs(y) / 0.035 - np.abs(x) / 0.22) + 0.22 * np.exp(-(r / 0.28) ** 2)) * edge), "particles/spark.png", 0)
     angle = np.arctan2(x, -y)
     turn = np.abs((angle + math.pi / 5) % (2 * math.pi / 5) - math.pi / 5)
@@ -95,27 +95,27 @@ def particles():
 
 def markers():
     """Found: a gold ring drawn by a pen, with a burst. Not found: a red cross that shakes and goes."""
-    gold = '<linearGradient id="au" x1="0" y1="0" x2=".500" y2="1"><stop offset="0" stop-color="#fffbe0"/><stop offset=".450" stop-color="#ffd565"/><stop offset="1" stop-color="#b8741c"/></linearGradient>'
+    gold = '<linearGradient id="au" x1="0" y1="0" x2=".5" y2="1"><stop offset="0" stop-color="#fffbe0"/><stop offset=".45" stop-color="#ffd565"/><stop offset="1" stop-color="#b8741c"/></linearGradient>'
     frames, turn = [], 2 * math.pi * 31
     for index in range(8):
         t = (index + 1) / 8
         drawn = min(1, t / 0.75)
         body = f'<circle cx="48" cy="48" r="{20 + 16 * t:.1f}" fill="#ffe9a0" opacity="{.35 * (1 - t) + .05:.2f}" filter="url(#softer)"/>'
         dash = f'stroke-dasharray="{turn * drawn:.1f} {turn:.1f}" transform="rotate(-100 48 48)"'
-        body += f'<circle cx="48" cy="48" r="31" fill="none" stroke="{INK}" stroke-width="8" stroke-linecap="round" opacity=".800" {dash}/><circle cx="48" cy="48" r="31" fill="none" stroke="url(#au)" stroke-width="5" stroke-linecap="round" {dash}/>'
+        body += f'<circle cx="48" cy="48" r="31" fill="none" stroke="{INK}" stroke-width="8" stroke-linecap="round" opacity=".8" {dash}/><circle cx="48" cy="48" r="31" fill="none" stroke="url(#au)" stroke-width="5" stroke-linecap="round" {dash}/>'
         if index >= 4:
             k = (index - 4) / 3
             for ray in range(12):
                 a = ray * math.pi / 6
                 inner, outer = 36 + 3 * k, 36 + 3 * k + 8 * math.sin(math.pi * (0.25 + 0.75 * k))
                 if outer - inner > 0.6:
-                    body += f'<path d="M{48 + inner * math.cos(a):.1f} {48 + inner * math.sin(a):.1f}L{48 + outer * math.cos(a):.1f} {48 + outer * math.sin(a):.1f}" stroke="#ffe9a0" stroke-width="2.600" stroke-linecap="round" opacity="{1 - .5 * k:.2f}"/>'
+                    body += f'<path d="M{48 + inner * math.cos(a):.1f} {48 + inner * math.sin(a):.1f}L{48 + outer * math.cos(a):.1f} {48 + outer * math.sin(a):.1f}" stroke="#ffe9a0" stroke-width="2.6" stroke-linecap="round" opacity="{1 - .5 * k:.2f}"/>'
         frames.append(raster(96, 96, body, gold))
     strip("gui/markers/found", frames, 50, (48, 48), loop=False)
     frames = []
     for index, (shift, size, fade) in enumerate(((0, .55, .7), (0, 1.12, 1), (-4, 1, 1), (4, 1, 1), (-3, 1, 1), (2, 1, .85), (0, .96, .55), (0, .9, .22))):
         arms = "M-20 -21Q-4 -6 21 20M20 -22Q3 -4 -20 21"
-        body = f'<g transform="translate({48 + shift},48) scale({size})" opacity="{fade}" fill="none" stroke-linecap="round"><path d="{arms}" stroke="{INK}" stroke-width="13" opacity=".800"/><path d="{arms}" stroke="#c23320" stroke-width="8.500"/><path d="{arms}" stroke="#ff9a7c" stroke-width="2.400" transform="translate(-1.200,-1.600)" opacity=".800"/></g>'
+        body = f'<g transform="translate({48 + shift},48) scale({size})" opacity="{fade}" fill="none" stroke-linecap="round"><path d="{arms}" stroke="{INK}" stroke-width="13" opacity=".8"/><path d="{arms}" stroke="#c23320" stroke-width="8.5"/><path d="{arms}" stroke="#ff9a7c" stroke-width="2.4" transform="translate(-1.2,-1.6)" opacity=".8"/></g>'
         frames.append(raster(96, 96, body))
     strip("gui/markers/not_found", frames, 60, (48, 48), loop=False)
 
@@ -131,12 +131,12 @@ def gull():
             elbow = (48 + side * 17, body_y - 4 - 11 * beat)
             tip = (48 + side * 42, body_y - 2 - 22 * lag + 3)
             wings += (f'<path d="M{48 + side * 3} {body_y - 3:.1f}Q{48 + side * 9} {elbow[1] - 4:.1f} {elbow[0]} {elbow[1]:.1f}Q{48 + side * 29} {elbow[1] + (tip[1] - elbow[1]) * .25 - 4:.1f} {tip[0]} {tip[1]:.1f}'
-                      f'Q{48 + side * 30} {elbow[1] + (tip[1] - elbow[1]) * .45 + 5:.1f} {48 + side * 16} {elbow[1] + 8:.1f}Q{48 + side * 9} {body_y + 2:.1f} {48 + side * 3} {body_y + 4:.1f}Z" fill="url(#wing)" stroke="#2b3640" stroke-width="1.200" stroke-linejoin="round"/>'
+                      f'Q{48 + side * 30} {elbow[1] + (tip[1] - elbow[1]) * .45 + 5:.1f} {48 + side * 16} {elbow[1] + 8:.1f}Q{48 + side * 9} {body_y + 2:.1f} {48 + side * 3} {body_y + 4:.1f}Z" fill="url(#wing)" stroke="#2b3640" stroke-width="1.2" stroke-linejoin="round"/>'
                       f'<path d="M{tip[0]} {tip[1]:.1f}Q{48 + side * 35} {tip[1] + (elbow[1] - tip[1]) * .35 + 1:.1f} {48 + side * 31} {tip[1] + (elbow[1] - tip[1]) * .5 + 2:.1f}L{48 + side * 32.5} {tip[1] + (elbow[1] - tip[1]) * .4 - 2:.1f}Z" fill="#26303a"/>')
         y = body_y
-        body = wings + (f'<path d="M40 {y + 6:.1f}Q34 {y + 10:.1f} 33 {y + 12.5:.1f}Q40 {y + 13:.1f} 45 {y + 9:.1f}Z" fill="#dfe6ea" stroke="#2b3640" stroke-width="1.100"/>'
-                        f'<path d="M40 {y + 5:.1f}Q42 {y - 3:.1f} 50 {y - 4:.1f}Q57 {y - 6:.1f} 60 {y - 2:.1f}Q61 {y + 2:.1f} 56 {y + 5:.1f}Q48 {y + 11:.1f} 40 {y + 5:.1f}Z" fill="#fbfdfd" stroke="#2b3640" stroke-width="1.200"/>'
-                        f'<path d="M59.500 {y - 2:.1f}L66.500 {y:.1f}L60 {y + 1.5:.1f}Z" fill="#efb02e" stroke="#2b3640" stroke-width=".900"/><circle cx="57" cy="{y - 2:.1f}" r="1.200" fill="#1a1f24"/>')
+        body = wings + (f'<path d="M40 {y + 6:.1f}Q34 {y + 10:.1f} 33 {y + 12.5:.1f}Q40 {y + 13:.1f} 45 {y + 9:.1f}Z" fill="#dfe6ea" stroke="#2b3640" stroke-width="1.1"/>'
+                        f'<path d="M40 {y + 5:.1f}Q42 {y - 3:.1f} 50 {y - 4:.1f}Q57 {y - 6:.1f} 60 {y - 2:.1f}Q61 {y + 2:.1f} 56 {y + 5:.1f}Q48 {y + 11:.1f} 40 {y + 5:.1f}Z" fill="#fbfdfd" stroke="#2b3640" stroke-width="1.2"/>'
+                        f'<path d="M59.500 {y - 2:.1f}L66.500 {y:.1f}L60 {y + 1.5:.1f}Z" fill="#efb02e" stroke="#2b3640" stroke-width=".9"/><circle cx="57" cy="{y - 2:.1f}" r="1.2" fill="#1a1f24"/>')
         frames.append(raster(96, 64, body, '<linearGradient id="wing" x1="0" y1="0" x2="0" y2="1"><stop offset="0" stop-color="#fdfefe"/><stop offset="1" stop-color="#a9b8c2"/></linearGradient>'))
     strip("gui/title/gull", frames, 90, (48, 36))
 
@@ -162,19 +162,19 @@ def hint():
         off, down, over = state == "_disabled", state == "_down", state == "_over"
         metal = "tin" if off else "brassdown" if down else "brassbright" if over else "brass"
         sky = ("#8a949a", "#5a656c", "#343c42") if off else ("#3d6f88", "#1f506e", "#0b2a40") if down else ("#b9ecfb", "#3f9cc6", "#134a6c") if over else ("#8fd0e6", "#2b80aa", "#0e344e")
-        defs = (f'<radialGradient id="sky" cx=".500" cy=".400" r=".750"><stop offset="0" stop-color="{sky[0]}"/><stop offset=".550" stop-color="{sky[1]}"/><stop offset="1" stop-color="{sky[2]}"/></radialGradient>'
-                '<linearGradient id="beam" x1="0" x2="1" y1="0" y2="0"><stop offset="0" stop-color="#fff2a8" stop-opacity=".950"/><stop offset="1" stop-color="#fff2a8" stop-opacity="0"/></linearGradient><clipPath id="c"><circle cx="48" cy="47" r="30"/></clipPath>')
-        body = f'<g filter="url(#shadow)"><circle cx="48" cy="47" r="43" fill="{INK}"/></g><circle cx="48" cy="47" r="42" fill="url(#{metal})" stroke="{INK}" stroke-width="1.600"/><circle cx="48" cy="47" r="35.500" fill="none" stroke="#3c2408" stroke-width="1.600" opacity=".700"/>'
+        defs = (f'<radialGradient id="sky" cx=".5" cy=".4" r=".75"><stop offset="0" stop-color="{sky[0]}"/><stop offset=".55" stop-color="{sky[1]}"/><stop offset="1" stop-color="{sky[2]}"/></radialGradient>'
+                '<linearGradient id="beam" x1="0" x2="1" y1="0" y2="0"><stop offset="0" stop-color="#fff2a8" stop-opacity=".95"/><stop offset="1" stop-color="#fff2a8" stop-opacity="0"/></linearGradient><clipPath id="c"><circle cx="48" cy="47" r="30"/></clipPath>')
+        body = f'<g filter="url(#shadow)"><circle cx="48" cy="47" r="43" fill="{INK}"/></g><circle cx="48" cy="47" r="42" fill="url(#{metal})" stroke="{INK}" stroke-width="1.6"/><circle cx="48" cy="47" r="35.5" fill="none" stroke="#3c2408" stroke-width="1.6" opacity=".7"/>'
         for i in range(8):
             a = i * math.pi / 4 + math.pi / 8
-            body += f'<circle cx="{48 + 38.6 * math.cos(a):.1f}" cy="{47 + 38.6 * math.sin(a):.1f}" r="2.400" fill="url(#{"tin" if off else "stud"})" stroke="#3c2408" stroke-width=".700"/>'
-        body += '<circle cx="48" cy="47" r="32.500" fill="#241404"/><circle cx="48" cy="47" r="30" fill="url(#sky)"/><g clip-path="url(#c)">'
+            body += f'<circle cx="{48 + 38.6 * math.cos(a):.1f}" cy="{47 + 38.6 * math.sin(a):.1f}" r="2.4" fill="url(#{"tin" if off else "stud"})" stroke="#3c2408" stroke-width=".7"/>'
+        body += '<circle cx="48" cy="47" r="32.5" fill="#241404"/><circle cx="48" cy="47" r="30" fill="url(#sky)"/><g clip-path="url(#c)">'
         if not off:
-            body += f'<path d="M50 36L92 19V50Z" fill="url(#beam)" opacity="{.6 if down else 1}"/><path d="M50 36L92 25V46Z" fill="url(#beam)" opacity=".550" transform="translate(96,0) scale(-1,1)"/>'
-        body += '<path d="M16 71Q27 66 36 70T56 70T84 69V92H12Z" fill="#0a2233" opacity=".880"/><path d="M35 71Q40 65 48 65Q58 65 62 71Z" fill="#3a332c"/><path d="M42.500 67L44.500 41H51.500L53.500 67Z" fill="#f3ead6"/>'
+            body += f'<path d="M50 36L92 19V50Z" fill="url(#beam)" opacity="{.6 if down else 1}"/><path d="M50 36L92 25V46Z" fill="url(#beam)" opacity=".55" transform="translate(96,0) scale(-1,1)"/>'
+        body += '<path d="M16 71Q27 66 36 70T56 70T84 69V92H12Z" fill="#0a2233" opacity=".88"/><path d="M35 71Q40 65 48 65Q58 65 62 71Z" fill="#3a332c"/><path d="M42.500 67L44.500 41H51.500L53.500 67Z" fill="#f3ead6"/>'
         stripe = "#77706a" if off else "#b5281c"
-        body += f'<path d="M43.300 57H52.700L52.200 51H43.800ZM44.200 47H51.900L51.500 42H44.500Z" fill="{stripe}"/><rect x="42.500" y="39" width="11" height="2.400" fill="#22201e"/><rect x="44.500" y="32" width="7" height="7" fill="{"#9aa0a2" if off else "#fff3a6"}" stroke="#22201e" stroke-width="1.100"/><path d="M43 32.500L48 26.500L53 32.500Z" fill="{"#57524e" if off else "#8e2017"}"/></g>'
-        body += f'<ellipse cx="45" cy="32" rx="22" ry="12" fill="url(#{"glossdown" if down else "gloss"})" opacity=".750"/>'
+        body += f'<path d="M43.300 57H52.700L52.200 51H43.800ZM44.200 47H51.900L51.500 42H44.500Z" fill="{stripe}"/><rect x="42.5" y="39" width="11" height="2.4" fill="#22201e"/><rect x="44.5" y="32" width="7" height="7" fill="{"#9aa0a2" if off else "#fff3a6"}" stroke="#22201e" stroke-width="1.1"/><path d="M43 32.500L48 26.500L53 32.500Z" fill="{"#57524e" if off else "#8e2017"}"/></g>'
+        body += f'<ellipse cx="45" cy="32" rx="22" ry="12" fill="url(#{"glossdown" if down else "gloss"})" opacity=".75"/>'
         save(f"gui/ingame/hint{state}.png", 96, 96, body, defs)
 
 
