@@ -1,6 +1,7 @@
 #include "src/CGameSpecificMain.h"
 
 #include "zncore/debug/znIDebug.h"
+#include "zncore/impl/platform/s3e.h"
 
 void CGameSpecificMain::create()
 {
@@ -10,4 +11,13 @@ void CGameSpecificMain::create()
     auto* instance = new CGameSpecificMain(); // deleted by znCAppCoreMain::destroy()
     instanceSet(instance);
     instance->startUp();
+}
+
+void CGameSpecificMain::firstGuiLoad()
+{
+    char screen[S3E_CONFIG_STRING_MAX];
+    if (s3eConfigGetString("commandline", "argv[1]", screen) == S3E_RESULT_SUCCESS)
+        nextScreenSet(screen);
+    else
+        firstSceneSet();
 }

@@ -12,6 +12,11 @@ public:
     static void create();
     ~CGameSpecificMain() override = default;
 
+protected:
+    // Opens the screen that the program's first argument names, a scene or a GUI file, so that an author sees it at
+    // once; without one the first scene.
+    void firstGuiLoad() override;
+
 private:
     CGameSpecificMain() = default;
 };
