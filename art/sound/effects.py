@@ -5,7 +5,7 @@ import sys
 import numpy as np
 
 import master
-from dsp import band, bell, hump, noise_ring, put, reverberate, room, samples, stereo, struck, tail_cut, times
+from dsp import band, bell, hump, noise_ring, put, reverberate, room, samples, stereo, struck, tail_cut
 
 RANDOM = np.random.default_rng(1887)
 
