@@ -1,6 +1,7 @@
 #include "znappcore/src/znCSpriteRenderData.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace
 {
@@ -13,7 +14,7 @@ u32 byteGet(float pComponent)
 
 void znCSpriteRenderData::verticesSet(const znPointF pCorners[4])
 {
-    std::copy_n(pCorners, 4, mVertices);
+    std::memcpy(mVertices, pCorners, sizeof mVertices);
 }
 
 void znCSpriteRenderData::uvsSet(float pU0, float pU1, float pV0, float pV1)
