@@ -106,7 +106,7 @@ def entry():
     body = f'<g filter="url(#shadow)"><path d="{edge}" fill="{INK}" stroke="{INK}" stroke-width="5"/></g>' + sheet(5, 6, w - 10, h - 14, 5) + rim(edge, 4.4)
     body += f'<path d="M24 {h - 17}H{w - 24}" stroke="#7a4a14" stroke-width="1" opacity=".55"/>'
     save("gui/common/text_entry.png", w, h, body)
-    save("gui/common/caret.png", 4, 36, '<rect x=".5" y="0" width="3" height="36" rx="1.2" fill="#3a1d08"/>')
+    save("gui/misc/caret.png", 4, 36, '<rect x=".5" y="0" width="3" height="36" rx="1.2" fill="#3a1d08"/>')
 
 
 def main():
