@@ -3,6 +3,7 @@
 #include "znappcore/src/znCGuiMessageDispatcher.h"
 #include "znappcore/src/znCUserSavedData.h"
 #include "znappcore/znCEmptyMessageData.h"
+#include "znappcore/znIAudioManager.h"
 #include "zncore/debug/znIDebug.h"
 #include "zncore/znCResourceName.h"
 #include "zncore/znNCoreUtils.h"
@@ -18,8 +19,11 @@ namespace
 {
 constexpr char SCENES_FOLDER[] = "scenes/";
 constexpr char TABLE_EXTENSION[] = ".txt";
-constexpr char NEXT_LEVEL_KEY[] = "ACT1NextLev"; // of the level's table
-constexpr char PLAY_TIME_KEY[] = "time";         // of the player's data: milliseconds in all levels
+// Keys of the level's table.
+constexpr char NEXT_LEVEL_KEY[] = "ACT1NextLev";
+constexpr char MUSIC_KEY[] = "music";
+constexpr char AMBIENT_KEY[] = "ambient";
+constexpr char PLAY_TIME_KEY[] = "time"; // of the player's data: milliseconds in all levels
 constexpr s32 PLACING_STEP_MS = 1;
 } // namespace
 
@@ -35,6 +39,7 @@ void znIHogLevel::create(const std::string& pName)
     znCHogCoreMain::instanceGet()->appDisplayChildAdd(level);
     level->messagesRegister();
     level->levelLoad(pName);
+    level->soundStart();
 }
 
 znIHogLevel* znIHogLevel::levelGet()
@@ -97,6 +102,14 @@ void znIHogLevel::sceneLoad()
 {
     componentAdd<znCHogLevelLoaderComponent>()->load(mLevelName, mLevelFolder);
     componentRemove(znCHogLevelLoaderComponent::TYPE);
+}
+
+void znIHogLevel::soundStart()
+{
+    const std::string music = mVariables.strGet(MUSIC_KEY);
+    const std::string ambient = mVariables.strGet(AMBIENT_KEY);
+    znIAudioManager::instanceGet()->musicPlay(znCResourceName(music, znCResourceName::GAME_DATA));
+    znIAudioManager::instanceGet()->effectPlay(znCResourceName(ambient, znCResourceName::GAME_DATA), true);
 }
 
 void znIHogLevel::subScenesStore()

@@ -67,6 +67,7 @@ protected:
 private:
     void sceneLoad();
     void savedStateLoad();
+    void soundStart();
 };
 
 #endif

@@ -5,6 +5,7 @@
 #include "znappcore/src/znCComponentFactory.h"
 #include "znappcore/src/znCEntityFactory.h"
 #include "znappcore/src/znCGuiMessageDispatcher.h"
+#include "znappcore/src/znCLocalisedStrings.h"
 #include "znappcore/src/znCUserSavedData.h"
 #include "znappcore/znIAudioManager.h"
 #include "znappcore/znIDisplay.h"
@@ -49,6 +50,7 @@ void znCAppCoreMain::startUp()
     znIDebug::create();
     znIHardware::create();
     znCAppSettings::create();
+    znCLocalisedStrings::create();
     znINode::staticVectorsCreate();
     znIAudioManager::create();
     savedDataCreate();
@@ -77,6 +79,7 @@ void znCAppCoreMain::shutDown()
     znIAudioManager::destroy();
     znINode::staticVectorsDestroy();
     znIInputManager::destroy();
+    znCLocalisedStrings::destroy();
     znIHardware::destroy();
     znCAppSettings::destroy();
     znIDebug::destroy();

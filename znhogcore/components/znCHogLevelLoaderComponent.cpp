@@ -59,7 +59,7 @@ std::string_view trimmed(std::string_view pText)
 bool numberRead(std::string_view pText, s32& pNumber)
 {
     std::string_view digits = trimmed(pText);
-    if (digits.starts_with('+'))
+    if (digits.starts_with('+') && !digits.starts_with("+-"))
         digits.remove_prefix(1);
     const char* end = digits.data() + digits.size();
     const auto [stop, error] = std::from_chars(digits.data(), end, pNumber);

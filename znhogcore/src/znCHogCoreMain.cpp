@@ -3,6 +3,7 @@
 #include "znappcore/src/znCAppSettings.h"
 #include "znappcore/src/znCBrushManager.h"
 #include "znappcore/src/znCUserSavedData.h"
+#include "znappcore/znIAudioManager.h"
 #include "znhogcore/src/znCCollectionEffectFactory.h"
 #include "znhogcore/src/znCHogComponentFactory.h"
 #include "znhogcore/src/znCHogEntityFactory.h"
@@ -94,6 +95,7 @@ void znCHogCoreMain::appUpdate(s32)
 void znCHogCoreMain::levelStart()
 {
     znCBrushManager::instanceGet()->brushesClear();
+    znIAudioManager::instanceGet()->effectsClear();
     znIHogLevel::create(mNextScreen);
     mNextScreen.clear();
 }

@@ -1,0 +1,232 @@
+#include "tests/znhogcore/znCHogTest.h"
+
+#include "znappcore/src/znCEntity.h"
+#include "znappcore/src/znCGuiMessageDispatcher.h"
+#include "znappcore/src/znCUserSavedData.h"
+#include "znappcore/znCEmptyMessageData.h"
+#include "znhogcore/src/znCHogMessageDispatcher.h"
+
+#include <sstream>
+
+namespace
+{
+struct Heard
+{
+    znCUniqueId mType;
+    const char* mName;
+    enum
+    {
+        nothing,
+        text,
+        entity
+    } mPayload;
+};
+
+const Heard HEARD[] = {
+    {znCHogMessageDispatcher::LEVEL_LOAD_COMP, "levelLoadComp", Heard::nothing},
+    {znCHogMessageDispatcher::RESET_LEVEL, "resetLevel", Heard::nothing},
+    {znCHogMessageDispatcher::POST_RESET_LEVEL, "postResetLevel", Heard::nothing},
+    {znCHogMessageDispatcher::TASK_COMPLETE, "TaskComplete", Heard::text},
+    {znCHogMessageDispatcher::COLLECTABLE_ENTITY_COLLECTED, "CollectableEntityCollected", Heard::entity},
+    {znCHogMessageDispatcher::SUB_EXIT_BUTTON_SHOW, "SubExitButtonShow", Heard::nothing},
+};
+} // namespace
+
+void znCHogTestEar::messagesRegister()
+{
+    for (const Heard& heard : HEARD)
+        znCHogMessageDispatcher::instanceGet()->listenerRegister(heard.mType, this);
+}
+
+void znCHogTestEar::messagesDeregister()
+{
+    for (const Heard& heard : HEARD)
+        znCHogMessageDispatcher::instanceGet()->listenerDeregister(heard.mType, this);
+}
+
+bool znCHogTestEar::messageProcess(const znCUniqueId& pType, void* pData)
+{
+    EXPECT_NE(pData, nullptr);
+    for (const Heard& heard : HEARD)
+        if (pType == heard.mType)
+        {
+            mHeard += heard.mName;
+            if (heard.mPayload == Heard::text)
+                mHeard += " " + *static_cast<std::string*>(pData);
+            if (heard.mPayload == Heard::entity)
+                mHeard += " " + static_cast<znCEntity*>(pData)->nameGet();
+            mHeard += "; ";
+        }
+    return false;
+}
+
+void znCHogTest::SetUp()
+{
+    mPlatform.mFiles.fileSet("appsettings.txt", "appCanvasW = \"800\",\r\nappCanvasH = \"600\",\r\n");
+    mPlatform.mFiles.fileSet("strings.txt", "PCK-lantern = \"the old lantern\",\r\n");
+    mPlatform.configSet("s3e", "FullScreen", "0");
+    znNGraphics::initialise();
+    programStart();
+}
+
+void znCHogTest::TearDown()
+{
+    programStop();
+    znNGraphics::terminate();
+    EXPECT_EQ(errorsTake(), std::vector<std::string>()) << "faults that the test doesn't expect";
+    EXPECT_EQ(mPlatform.mDraw.mFaults, std::vector<std::string>());
+    EXPECT_TRUE(mPlatform.mDraw.mTextures.empty()) << "textures that nobody freed";
+}
+
+void znCHogTest::programStart()
+{
+    znCHogTestMain::create();
+    mEar.messagesRegister();
+}
+
+void znCHogTest::programStop()
+{
+    mEar.messagesDeregister();
+    logRead();
+    znCAppCoreMain::destroy();
+}
+
+void znCHogTest::imageSet(const std::string& pName, s32 pWidth, s32 pHeight, const std::string& pAlpha)
+{
+    znNTestImages::Bytes pixels;
+    for (s32 i = 0; i < pWidth * pHeight; ++i)
+    {
+        const bool clear = pAlpha[static_cast<std::size_t>(i) % pAlpha.size()] == '.';
+        pixels.insert(pixels.end(), {10, 20, 30, static_cast<u8>(clear ? 0 : 255)});
+    }
+    const znNTestImages::Bytes file = znNTestImages::pngMake(pWidth, pHeight, pixels);
+    mPlatform.mFiles.fileSet(pName, std::string(file.begin(), file.end()));
+}
+
+void znCHogTest::sceneSet(const std::string& pName, const std::string& pCoords, const std::string& pTable)
+{
+    const std::string folder = "scenes/" + pName + "/";
+    mPlatform.mFiles.fileSet(folder + "coords.txt", pCoords);
+    if (!pTable.empty())
+        mPlatform.mFiles.fileSet(folder + pName + ".txt", pTable);
+    std::istringstream lines(pCoords);
+    for (std::string line; std::getline(lines, line);)
+    {
+        std::string image = folder + line.substr(0, line.find(','));
+        for (char& c : image)
+            c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        if (!image.ends_with(".png") || mPlatform.mFiles.fileExists(image))
+            continue;
+        const bool isBackground = line.find("Background") != std::string::npos;
+        imageSet(image, isBackground ? CANVAS_WIDTH : 40, isBackground ? CANVAS_HEIGHT : 40);
+    }
+}
+
+void znCHogTest::sceneOpen(const std::string& pName)
+{
+    znCHogCoreMain::instanceGet()->nextScreenSet(pName);
+    frame();
+    ASSERT_NE(znIHogLevel::levelGet(), nullptr);
+}
+
+void znCHogTest::levelLeave()
+{
+    znCGuiMessageDispatcher::instanceGet()->messageSend(znIHogLevel::FADE_OUT_COMPLETE,
+                                                        znCEmptyMessageData::sharedGet());
+    frame(2); // it is deleted in the first; what follows opens by the second
+}
+
+void znCHogTest::levelEnd(bool pForget)
+{
+    const std::string key = znIHogLevel::SAVED_STATE_KEY + level().levelNameGet();
+    levelLeave();
+    ASSERT_EQ(znIHogLevel::levelGet(), nullptr);
+    if (pForget)
+        znCUserSavedData::instanceGet()->strSet(key, "");
+}
+
+void znCHogTest::frame(s32 pCount)
+{
+    for (s32 i = 0; i < pCount; ++i)
+    {
+        s3ePointerUpdate();
+        znCAppCoreMain::instanceGet()->frameUpdate(FRAME_MS);
+    }
+}
+
+void znCHogTest::press(s32 pX, s32 pY)
+{
+    mPlatform.mInput.buttonQueue(0, true, pX + CANVAS_WIDTH / 2, pY + CANVAS_HEIGHT / 2);
+    frame();
+}
+
+void znCHogTest::move(s32 pX, s32 pY)
+{
+    mPlatform.mInput.motionQueue(pX + CANVAS_WIDTH / 2, pY + CANVAS_HEIGHT / 2);
+    frame();
+}
+
+void znCHogTest::release(s32 pX, s32 pY)
+{
+    mPlatform.mInput.buttonQueue(0, false, pX + CANVAS_WIDTH / 2, pY + CANVAS_HEIGHT / 2);
+    frame();
+}
+
+void znCHogTest::tap(s32 pX, s32 pY)
+{
+    press(pX, pY);
+    release(pX, pY);
+}
+
+znIHogLevel& znCHogTest::level()
+{
+    return *znIHogLevel::levelGet();
+}
+
+znCEntity* znCHogTest::find(const std::string& pName)
+{
+    return dynamic_cast<znCEntity*>(level().childFind(pName));
+}
+
+znICollectableComponent& znCHogTest::collectable(const std::string& pName)
+{
+    return *find(pName)->componentFind<znICollectableComponent>();
+}
+
+s32 znCHogTest::stateGet(const std::string& pName)
+{
+    std::string saved;
+    collectable(pName).mySave(saved);
+    return znINode::s32Load(saved);
+}
+
+void znCHogTest::send(const znCUniqueId& pType)
+{
+    znCHogMessageDispatcher::instanceGet()->messageSend(pType, znCEmptyMessageData::sharedGet());
+}
+
+void znCHogTest::logRead()
+{
+    std::istringstream log(mPlatform.logTake());
+    for (std::string line; std::getline(log, line);)
+    {
+        const std::size_t kind = line.find_first_not_of('\r');
+        const std::size_t message = line.find(") ");
+        if (kind == std::string::npos || message == std::string::npos ||
+            line.find("ASSERT failure (") != std::string::npos)
+            continue;
+        (line.compare(kind, 6, "ERROR(") == 0 ? mErrors : mLines).push_back(line.substr(message + 2));
+    }
+}
+
+std::vector<std::string> znCHogTest::errorsTake()
+{
+    logRead();
+    return std::exchange(mErrors, {});
+}
+
+std::vector<std::string> znCHogTest::linesTake()
+{
+    logRead();
+    return std::exchange(mLines, {});
+}
