@@ -1,5 +1,10 @@
 #include "znappcore/src/znCComponentFactory.h"
 
+#include "znappcore/components/gui/elements/znCButtonComponent.h"
+#include "znappcore/components/gui/elements/znCCheckBoxComponent.h"
+#include "znappcore/components/gui/elements/znCCheckBoxGroupComponent.h"
+#include "znappcore/components/gui/elements/znCSliderComponent.h"
+#include "znappcore/components/gui/znCModalGuiComponent.h"
 #include "znappcore/components/znCDragDropComponent.h"
 #include "znappcore/components/znCSpriteComponent.h"
 #include "znappcore/znIComponent.h"
@@ -40,6 +45,11 @@ void znCComponentFactory::componentsRegister()
 {
     componentRegister<znCDragDropComponent>();
     componentRegister<znCSpriteComponent>();
+    componentRegister<znCButtonComponent>();
+    componentRegister<znCCheckBoxComponent>();
+    componentRegister<znCCheckBoxGroupComponent>();
+    componentRegister<znCModalGuiComponent>();
+    componentRegister<znCSliderComponent>();
 }
 
 void znCComponentFactory::componentRegister(const znCUniqueId& pType, Creator pCreator)

@@ -1,10 +1,13 @@
 #include "znappcore/src/znCGuiMessageDispatcher.h"
 
+#include "znappcore/components/gui/znIGuiComponent.h"
+#include "znappcore/src/znCAppCoreMain.h"
 #include "znappcore/src/znCEntity.h"
 #include "znappcore/znCButtonActionData.h"
 #include "znappcore/znIDisplay.h"
 #include "znappcore/znIHardware.h"
 #include "zncore/debug/znIDebug.h"
+#include "zncore/znCResourceName.h"
 
 #include <memory>
 
@@ -33,12 +36,21 @@ void znCGuiMessageDispatcher::destroy()
 
 bool znCGuiMessageDispatcher::messageSend(const znCUniqueId& pType, void* pData)
 {
-    if (pType == CLOSE_GUI)
-        closeGuiMessageHandle(*static_cast<znCButtonActionData*>(pData));
-    else if (pType == LAUNCH_BROWSER)
-        znIHardware::instanceGet()->urlOpen(static_cast<znCButtonActionData*>(pData)->mParam);
-    else
+    const bool isOwn = pType == CLOSE_GUI || pType == LOAD_GUI || pType == LOAD_GUI_TUT || pType == LAUNCH_BROWSER;
+    if (!isOwn)
         return znIMessageDispatcher::messageSend(pType, pData);
+    const auto& action = *static_cast<const znCButtonActionData*>(pData);
+    if (pType == CLOSE_GUI)
+        closeGuiMessageHandle(action);
+    else if (pType == LAUNCH_BROWSER)
+        znIHardware::instanceGet()->urlOpen(action.mParam);
+    else
+        loadGuiMessageHandle(action);
+    if (pType == LOAD_GUI_TUT)
+    {
+        std::string name = buttonNameGet(action);
+        messageSend(TUTORIAL_BUTTON_PRESSED, &name);
+    }
     return true;
 }
 
@@ -49,4 +61,27 @@ void znCGuiMessageDispatcher::closeGuiMessageHandle(const znCButtonActionData& p
     ZN_ASSERT(gui != nullptr, "Gui %s not found for closing.\n", pAction.mParam.c_str());
     if (gui != nullptr)
         gui->destroy();
+}
+
+void znCGuiMessageDispatcher::loadGuiMessageHandle(const znCButtonActionData& pAction)
+{
+    znINode* parent = pAction.mButton != nullptr ? pAction.mButton->entityGet() : nullptr;
+    while (parent != nullptr && znIGuiComponent::guiComponentGet(dynamic_cast<const znCEntity*>(parent)) == nullptr)
+        parent = parent->parentGet();
+    ZN_ASSERT(parent != nullptr, "Parent Gui not found for adding new child gui %s from button %s.\n",
+              pAction.mParam.c_str(), buttonNameGet(pAction).c_str());
+    const znCResourceName file(pAction.mParam, znCResourceName::GAME_DATA);
+    znCEntity* gui = znIGuiComponent::guiCreateFromFile(file, parent, true);
+    if (parent != nullptr || gui == nullptr)
+        return;
+    // Outside the tree it would take all input and never show.
+    if (znCAppCoreMain* main = znCAppCoreMain::instanceGet())
+        main->appDisplayChildAdd(gui);
+    else
+        znIDisplay::instanceGet()->childAdd(gui);
+}
+
+std::string znCGuiMessageDispatcher::buttonNameGet(const znCButtonActionData& pAction)
+{
+    return pAction.mButton != nullptr ? pAction.mButton->entityGet()->nameGet() : std::string();
 }

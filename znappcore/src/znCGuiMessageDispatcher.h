@@ -8,6 +8,8 @@
 
 #include "znappcore/znIMessageDispatcher.h"
 
+#include <string>
+
 struct znCButtonActionData;
 class znIComponent;
 
@@ -34,6 +36,7 @@ private:
 
     void closeGuiMessageHandle(const znCButtonActionData& pAction);
     void loadGuiMessageHandle(const znCButtonActionData& pAction);
+    static std::string buttonNameGet(const znCButtonActionData& pAction);
 };
 
 #endif

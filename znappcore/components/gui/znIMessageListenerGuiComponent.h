@@ -1,0 +1,15 @@
+#ifndef ZNAPPCORE_COMPONENTS_GUI_ZNIMESSAGELISTENERGUICOMPONENT_H
+#define ZNAPPCORE_COMPONENTS_GUI_ZNIMESSAGELISTENERGUICOMPONENT_H
+
+// Base of the GUIs that hear messages.
+
+#include "znappcore/components/gui/znIGuiComponent.h"
+#include "znappcore/znIMessageListener.h"
+
+class znIMessageListenerGuiComponent : public znIGuiComponent, public znIMessageListener
+{
+public:
+    explicit znIMessageListenerGuiComponent(znCEntity* pEntity) : znIGuiComponent(pEntity) {}
+};
+
+#endif
