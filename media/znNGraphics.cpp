@@ -9,6 +9,7 @@ namespace
 s3eDraw sTable = {};
 bool sAvailable = false;
 znCFrameMemory sFrameMemory;
+u32 sFrameNumber = 0;
 s3eDrawRun sRun = {}; // the state that the next quadsDraw uses
 
 void sizeGet(void (*pOperation)(s32*, s32*), s32* pWidth, s32* pHeight)
@@ -122,9 +123,15 @@ void znNGraphics::flush()
     if (sAvailable)
         sTable.flush();
     sFrameMemory.frameReset();
+    ++sFrameNumber;
     sRun.mPositions = nullptr;
     sRun.mUvs = nullptr;
     sRun.mColours = nullptr;
+}
+
+u32 znNGraphics::frameNumberGet()
+{
+    return sFrameNumber;
 }
 
 void znNGraphics::present()

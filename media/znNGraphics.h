@@ -56,6 +56,8 @@ void quadsDraw(s32 pVertexCount);
 
 // Draws what is queued and ends the frame memory's frame.
 void flush();
+// Counts the flushes: what was queued under an earlier number has been drawn.
+u32 frameNumberGet();
 void present();
 
 // Rows from the top, bytes R, G, B, A, of what was flushed since the last clear. False, and pPixels as it was, on

@@ -1,0 +1,36 @@
+#ifndef MEDIA_ZNNFONTS_H
+#define MEDIA_ZNNFONTS_H
+
+// The font layer: what all fonts (znCGraphicsFont) and laid-out texts (znCGraphicsText) share, above all the one
+// texture that holds every glyph.
+//
+// initialise() comes after znNGraphics::initialise() and before the first font, terminate() after the last font is gone
+// and before znNGraphics::terminate(). Outside the two, fonts are empty and texts have no glyphs.
+
+#include "zncore/znTypes.h"
+
+class znCGraphicsTexture;
+class znCResourceName;
+
+namespace znNFonts
+{
+void initialise();
+void terminate();
+
+// A font to look in for what another font lacks, after those that were added before it. It is read when first needed.
+void fallbackAdd(const znCResourceName& pName);
+
+// Device pixels to a canvas unit; 1 at first. Glyphs are drawn for this scale, texts are laid out without regard to it.
+// A change makes every text place its glyphs anew (znCGraphicsText::refresh); the same value again costs nothing.
+void displayScaleSet(float pScale);
+float displayScaleGet();
+
+// White glyphs with their coverage as alpha, in a texture that grows: ask for it at each draw. Null before the first
+// glyph.
+const znCGraphicsTexture* glyphTextureGet();
+
+// How many glyphs have been drawn from their outlines since initialise(): each once a size and scale.
+s32 glyphsRasterisedGet();
+} // namespace znNFonts
+
+#endif
