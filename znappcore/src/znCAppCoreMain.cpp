@@ -4,8 +4,10 @@
 #include "znappcore/src/znCBrushManager.h"
 #include "znappcore/src/znCComponentFactory.h"
 #include "znappcore/src/znCEntityFactory.h"
+#include "znappcore/src/znCGlobalSavedData.h"
 #include "znappcore/src/znCGuiMessageDispatcher.h"
 #include "znappcore/src/znCLocalisedStrings.h"
+#include "znappcore/src/znCProfileManager.h"
 #include "znappcore/src/znCUserSavedData.h"
 #include "znappcore/znIAudioManager.h"
 #include "znappcore/znIDisplay.h"
@@ -54,6 +56,7 @@ void znCAppCoreMain::startUp()
     znINode::staticVectorsCreate();
     znIAudioManager::create();
     savedDataCreate();
+    znCProfileManager::create();
     znCGuiMessageDispatcher::create();
     znIDisplay::create();
     appDisplayNodeCreate();
@@ -75,7 +78,7 @@ void znCAppCoreMain::shutDown()
     factoriesDestroy();
     znIDisplay::destroy(); // deletes the whole tree
     mAppDisplayNode = nullptr;
-    znCUserSavedData::destroy();
+    znCProfileManager::destroy(); // writes the saved data once more
     znIAudioManager::destroy();
     znINode::staticVectorsDestroy();
     znIInputManager::destroy();
@@ -131,6 +134,7 @@ void znCAppCoreMain::appDisplayNodeCreate()
 
 void znCAppCoreMain::savedDataCreate()
 {
+    znCGlobalSavedData::create();
     znCUserSavedData::create();
 }
 

@@ -11,9 +11,15 @@ std::unique_ptr<znCUserSavedData> sInstance;
 
 void znCUserSavedData::create()
 {
+    instanceSet(new znCUserSavedData());
+}
+
+void znCUserSavedData::instanceSet(znCUserSavedData* pInstance)
+{
     ZN_ASSERT(sInstance == nullptr, "Already created znCUserSavedData.\n");
-    sInstance.reset(new znCUserSavedData());
-    sInstance->defaultsSet();
+    sInstance.reset(pInstance);
+    sInstance->reset();
+    sInstance->progressClear();
 }
 
 znCUserSavedData* znCUserSavedData::instanceGet()

@@ -1,13 +1,13 @@
 #ifndef ZNAPPCORE_SRC_ZNCUSERSAVEDDATA_H
 #define ZNAPPCORE_SRC_ZNCUSERSAVEDDATA_H
 
-#include "zncore/src/znCVariableTable.h"
+#include "znappcore/znISavedData.h"
 
-// The settings and the state of the current player. A singleton.
-class znCUserSavedData : public znCVariableTable
+// The settings and the state of the current player. A singleton, filled and written by znCProfileManager.
+class znCUserSavedData : public znISavedData
 {
 public:
-    // Keys.
+    // Keys, with the values that a new table holds.
     static constexpr const char* MUSIC_VOLUME = "MusicVolume";     // float, 0 to 1; 0.75
     static constexpr const char* EFFECTS_VOLUME = "EffectsVolume"; // float, 0 to 1; 0.75
     static constexpr const char* MUTE_ALL = "MuteAll";             // bool; false
@@ -16,19 +16,21 @@ public:
     static constexpr const char* CHEAT = "cheat";                  // bool; false
     static constexpr const char* CURRENCY = "currency";            // s32; 0
 
-    virtual ~znCUserSavedData() = default;
-
-    // Makes the one instance with all values at their defaults. A second call logs "Already created
-    // znCUserSavedData.\n" and starts anew.
+    // Makes the one instance with its defaults. A second call logs "Already created znCUserSavedData.\n" and starts
+    // anew.
     static void create();
     // Without an instance both log "Not created.\n"; instanceGet answers null then.
     static znCUserSavedData* instanceGet();
     static void destroy();
 
-    virtual void defaultsSet();
+    void defaultsSet() override;
+    virtual void profileInitialise() {} // a new player begins with this table
+    virtual void progressClear() {}     // a new game begins
 
 protected:
     znCUserSavedData() = default;
+    // Makes pInstance, a derived class's, the one instance; destroy() deletes it.
+    static void instanceSet(znCUserSavedData* pInstance);
 };
 
 #endif

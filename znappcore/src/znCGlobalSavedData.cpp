@@ -1,0 +1,95 @@
+#include "znappcore/src/znCGlobalSavedData.h"
+
+#include "zncore/debug/znIDebug.h"
+
+#include <algorithm>
+#include <memory>
+
+namespace
+{
+constexpr char PROFILE_COUNT[] = "NumProfiles";
+constexpr char PROFILE_CURRENT[] = "CurrProfile";
+constexpr char PROFILE_NAME[] = "ProfileName";          // followed by the player's index
+constexpr char PROFILE_FILE_NAME[] = "ProfileFileName"; // followed by the player's index
+
+std::unique_ptr<znCGlobalSavedData> sInstance;
+
+std::string keyGet(const char* pPrefix, s32 pIndex)
+{
+    return pPrefix + std::to_string(pIndex);
+}
+} // namespace
+
+void znCGlobalSavedData::create()
+{
+    instanceSet(new znCGlobalSavedData());
+}
+
+void znCGlobalSavedData::instanceSet(znCGlobalSavedData* pInstance)
+{
+    ZN_ASSERT(sInstance == nullptr, "Already created znCGlobalSavedData.\n");
+    sInstance.reset(pInstance);
+    sInstance->reset();
+}
+
+znCGlobalSavedData* znCGlobalSavedData::instanceGet()
+{
+    ZN_ASSERT(sInstance != nullptr, "Not created.\n");
+    return sInstance.get();
+}
+
+void znCGlobalSavedData::destroy()
+{
+    ZN_ASSERT(sInstance != nullptr, "Not created.\n");
+    sInstance.reset();
+}
+
+void znCGlobalSavedData::defaultsSet()
+{
+    profileCountSet(0);
+    currentProfileSet(PROFILE_NONE);
+}
+
+s32 znCGlobalSavedData::profileCountGet() const
+{
+    // No more than the table has room for, whatever a broken file says.
+    return std::clamp(s32Get(PROFILE_COUNT, 0), 0, static_cast<s32>(mEntries.size()));
+}
+
+void znCGlobalSavedData::profileCountSet(s32 pCount)
+{
+    s32Set(PROFILE_COUNT, pCount);
+}
+
+s32 znCGlobalSavedData::currentProfileGet() const
+{
+    return s32Get(PROFILE_CURRENT, PROFILE_NONE);
+}
+
+void znCGlobalSavedData::currentProfileSet(s32 pIndex)
+{
+    s32Set(PROFILE_CURRENT, pIndex);
+}
+
+std::string znCGlobalSavedData::profileNameGet(s32 pIndex) const
+{
+    ZN_ASSERT(profileExists(pIndex), "Getting the name of a profile that doesn't exist.\n");
+    return strGet(keyGet(PROFILE_NAME, pIndex));
+}
+
+znCResourceName znCGlobalSavedData::profileFileNameGet(s32 pIndex) const
+{
+    ZN_ASSERT(profileExists(pIndex), "Getting the filename of a profile that doesn't exist.\n");
+    return znCResourceName(profileFileTextGet(pIndex), znCResourceName::USER_DATA);
+}
+
+std::string znCGlobalSavedData::profileFileTextGet(s32 pIndex) const
+{
+    return strGet(keyGet(PROFILE_FILE_NAME, pIndex));
+}
+
+void znCGlobalSavedData::profileSet(s32 pIndex, const std::string& pName, const std::string& pFileName)
+{
+    strSet(keyGet(PROFILE_NAME, pIndex), pName);
+    strSet(keyGet(PROFILE_FILE_NAME, pIndex), pFileName);
+}

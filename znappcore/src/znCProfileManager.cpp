@@ -1,0 +1,212 @@
+#include "znappcore/src/znCProfileManager.h"
+
+#include "znappcore/src/znCGlobalSavedData.h"
+#include "znappcore/src/znCGuiMessageDispatcher.h"
+#include "znappcore/src/znCUserSavedData.h"
+#include "znappcore/znCEmptyMessageData.h"
+#include "znappcore/znIAudioManager.h"
+#include "znappcore/znIDisplay.h"
+#include "zncore/debug/znIDebug.h"
+#include "zncore/znIFile.h"
+
+#include <memory>
+
+namespace
+{
+constexpr char CHEAT_NAME[] = "0bkvnqd0"; // the player of this name may look behind the curtain
+
+std::unique_ptr<znCProfileManager> sInstance;
+
+znCGlobalSavedData& global()
+{
+    return *znCGlobalSavedData::instanceGet();
+}
+
+znCUserSavedData& user()
+{
+    return *znCUserSavedData::instanceGet();
+}
+
+void guiMessageSend(const znCUniqueId& pType)
+{
+    znCGuiMessageDispatcher::instanceGet()->messageSend(pType, znCEmptyMessageData::sharedGet());
+}
+} // namespace
+
+void znCProfileManager::create()
+{
+    ZN_ASSERT(sInstance == nullptr, "Already created znCProfileManager.\n");
+    sInstance.reset();
+    sInstance.reset(new znCProfileManager());
+    sInstance->start();
+}
+
+znCProfileManager* znCProfileManager::instanceGet()
+{
+    ZN_ASSERT(sInstance != nullptr, "Not created.\n");
+    return sInstance.get();
+}
+
+void znCProfileManager::destroy()
+{
+    ZN_ASSERT(sInstance != nullptr, "Not created.\n");
+    if (sInstance == nullptr)
+        return;
+    sInstance->dataSave();
+    sInstance.reset();
+}
+
+znCProfileManager::znCProfileManager() : mGlobalFile("global.txt", znCResourceName::USER_DATA) {}
+
+znCProfileManager::~znCProfileManager()
+{
+    znCGlobalSavedData::destroy();
+    znCUserSavedData::destroy();
+}
+
+// The select step must not save the user table, which is still empty, over the player's file: so there is no current
+// player while it runs.
+void znCProfileManager::start()
+{
+    global().fileLoad(mGlobalFile);
+    const s32 index = global().currentProfileGet();
+    global().currentProfileSet(znCGlobalSavedData::PROFILE_NONE);
+    if (index == znCGlobalSavedData::PROFILE_NONE || !profileExists(index))
+        settingsApply();
+    else
+        profileSelect(index);
+}
+
+bool znCProfileManager::profileExists(s32 pIndex) const
+{
+    const bool exists = pIndex >= 0 && pIndex < global().profileCountGet();
+    ZN_ASSERT(exists, "There is no player %d.\n", pIndex);
+    return exists;
+}
+
+bool znCProfileManager::profileNameIsFreeGet(const std::string& pName) const
+{
+    for (s32 i = 0; i < global().profileCountGet(); ++i)
+        if (global().profileNameGet(i) == pName)
+            return false;
+    return true;
+}
+
+void znCProfileManager::profileSelect(s32 pIndex)
+{
+    if (!profileExists(pIndex))
+        return;
+    userSave();
+    global().currentProfileSet(pIndex);
+    user().clear();
+    user().fileLoad(global().profileFileNameGet(pIndex));
+    globalSave();
+    settingsApply();
+}
+
+void znCProfileManager::profileCreate(const std::string& pName)
+{
+    userSave();
+    const s32 count = global().profileCountGet();
+    if (count > 0)
+        settingsCapture();
+    global().profileSet(count, pName, fileNameFreeGet());
+    user().profileInitialise();
+    if (mMusicVolume != 0.0f)
+        settingsHandOn();
+    global().currentProfileSet(count);
+    global().profileCountSet(count + 1);
+    if (pName == CHEAT_NAME)
+        user().boolSet(znCUserSavedData::CHEAT, true);
+    dataSave();
+    settingsCapture();
+    guiMessageSend(PROFILE_CREATION_COMPLETE);
+    slotsChangedSend();
+}
+
+void znCProfileManager::profileDelete(s32 pIndex)
+{
+    if (!profileExists(pIndex))
+        return;
+    settingsCapture();
+    znIFile::fileDelete(global().profileFileNameGet(pIndex));
+    const s32 current = global().currentProfileGet();
+    if (pIndex == current)
+    {
+        global().currentProfileSet(znCGlobalSavedData::PROFILE_NONE);
+        user().reset();
+    }
+    else if (pIndex < current)
+        global().currentProfileSet(current - 1);
+    for (s32 i = pIndex; i + 1 < global().profileCountGet(); ++i)
+        global().profileSet(i, global().profileNameGet(i + 1), global().profileFileTextGet(i + 1));
+    global().profileCountSet(global().profileCountGet() - 1);
+    globalSave();
+    slotsChangedSend();
+}
+
+// The player's file comes first: a crash between the two leaves a global file that names only files that are there.
+void znCProfileManager::dataSave()
+{
+    userSave();
+    globalSave();
+}
+
+void znCProfileManager::userSave()
+{
+    const s32 current = global().currentProfileGet();
+    if (current != znCGlobalSavedData::PROFILE_NONE)
+        user().fileSave(global().profileFileNameGet(current));
+}
+
+void znCProfileManager::globalSave()
+{
+    global().fileSave(mGlobalFile);
+}
+
+void znCProfileManager::settingsCapture()
+{
+    mMusicVolume = user().f32Get(znCUserSavedData::MUSIC_VOLUME);
+    mEffectsVolume = user().f32Get(znCUserSavedData::EFFECTS_VOLUME);
+    mMuteAll = user().boolGet(znCUserSavedData::MUTE_ALL);
+    mCustomCursors = user().boolGet(znCUserSavedData::CUSTOM_CURSORS);
+    mFullScreen = user().boolGet(znCUserSavedData::FULL_SCREEN);
+}
+
+void znCProfileManager::settingsHandOn()
+{
+    user().f32Set(znCUserSavedData::MUSIC_VOLUME, mMusicVolume);
+    user().f32Set(znCUserSavedData::EFFECTS_VOLUME, mEffectsVolume);
+    user().boolSet(znCUserSavedData::MUTE_ALL, mMuteAll);
+    user().boolSet(znCUserSavedData::CUSTOM_CURSORS, mCustomCursors);
+    user().boolSet(znCUserSavedData::FULL_SCREEN, mFullScreen);
+}
+
+void znCProfileManager::settingsApply()
+{
+    znIAudioManager* audio = znIAudioManager::instanceGet();
+    audio->musicVolumeSet(user().f32Get(znCUserSavedData::MUSIC_VOLUME));
+    audio->effectsVolumeSet(user().f32Get(znCUserSavedData::EFFECTS_VOLUME));
+    audio->masterVolumeSet(user().boolGet(znCUserSavedData::MUTE_ALL) ? 0.0f : 1.0f);
+    const bool fullScreen = user().boolGet(znCUserSavedData::FULL_SCREEN);
+    if (znIDisplay::existsGet() && znIDisplay::instanceGet()->isFullScreenGet() != fullScreen)
+        znIDisplay::instanceGet()->screenModeSet(fullScreen);
+}
+
+std::string znCProfileManager::fileNameFreeGet() const
+{
+    for (s32 number = 0;; ++number)
+    {
+        const std::string name = "user" + std::to_string(number) + ".txt";
+        bool used = false;
+        for (s32 i = 0; i < global().profileCountGet() && !used; ++i)
+            used = global().profileFileTextGet(i) == name;
+        if (!used)
+            return name;
+    }
+}
+
+void znCProfileManager::slotsChangedSend()
+{
+    guiMessageSend(PROFILE_SLOTS_HAVE_CHANGED);
+}

@@ -1,0 +1,12 @@
+#include "znappcore/znISavedData.h"
+
+void znISavedData::reset()
+{
+    clear();
+    defaultsSet();
+}
+
+void znISavedData::clear()
+{
+    mEntries.clear();
+}
