@@ -5,6 +5,7 @@
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
+#include <string_view>
 
 namespace
 {
@@ -15,11 +16,16 @@ constexpr const char* LINE_END = "\r\n";
 constexpr const char* LOG_FULL = "The log is full; nothing more is written.\r\n";
 constexpr u32 MESSAGE_SIZE = 4096;
 
-std::string withoutExtension(const char* pFile)
+// The path from the repository's root, without the extension. Compiler caches may pass paths that start at a build
+// folder below the root.
+std::string sourceNameGet(const char* pFile)
 {
-    const char* slash = std::strrchr(pFile, '/');
-    const char* dot = std::strrchr(pFile, '.');
-    return dot != nullptr && (slash == nullptr || dot > slash) ? std::string(pFile, dot) : std::string(pFile);
+    std::string_view file = pFile;
+    while (file.starts_with("../"))
+        file.remove_prefix(3);
+    const std::string_view::size_type dot = file.rfind('.');
+    const bool extension = dot != std::string_view::npos && file.find('/', dot) == std::string_view::npos;
+    return std::string(file.substr(0, extension ? dot : file.size()));
 }
 
 void textErase(std::string& pText, const char* pPart)
@@ -141,7 +147,7 @@ void znIDebug::assertionReport(const char* pFile, s32 pLine, const char* pFuncti
     const std::string start = lineStartGet("ERROR", pFunction);
     znIDebug& log = *sInstance;
     log.textWrite(
-        log.textFormat("%sASSERT failure (%s line %d)\n", start.c_str(), withoutExtension(pFile).c_str(), pLine));
+        log.textFormat("%sASSERT failure (%s line %d)\n", start.c_str(), sourceNameGet(pFile).c_str(), pLine));
     log.textWrite(LINE_END);
     log.textWrite(log.textFormat("%s%s", start.c_str(), message));
     log.textWrite(LINE_END);
