@@ -87,7 +87,6 @@ bool znCGraphicsText::refresh()
     znCFontLayer* layer = znCFontLayer::instanceGet();
     if (layer == nullptr)
         return false;
-    layer->mStore.roomMake();
     if (mPlaceGeneration == layer->mStore.placeGenerationGet())
         return false;
     place();

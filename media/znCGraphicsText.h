@@ -50,7 +50,7 @@ public:
     void prepare(const znCGraphicsFont& pFont, const std::string& pText, s32 pBoxWidth, s32 pBoxHeight, s32 pAlignH,
                  s32 pAlignV);
 
-    // Places the glyphs anew if the display's scale or the glyph texture has changed, without a new layout. True if
+    // Places the glyphs anew, without a new layout, if znNFonts::frameBegin asks for it. True if
     // that was so: the rectangles, and even their number, may have changed. Cheap when nothing has.
     bool refresh();
 

@@ -87,13 +87,13 @@ void znNFonts::fallbackAdd(const znCResourceName& pName)
         sLayer->fallbackAdd(pName);
 }
 
-void znNFonts::displayScaleSet(float pScale)
+void znNFonts::frameBegin(float pDisplayScale)
 {
-    // The comparison is false for a number that is none.
-    if (sLayer == nullptr || !(pScale > 0.0f))
+    if (sLayer == nullptr)
         return;
-    const float scale = std::clamp(pScale, sScaleMin, sScaleMax);
-    if (scale == sLayer->mDisplayScale)
+    // The comparison is false for a number that is none.
+    const float scale = pDisplayScale > 0.0f ? std::clamp(pDisplayScale, sScaleMin, sScaleMax) : sLayer->mDisplayScale;
+    if (scale == sLayer->mDisplayScale && !sLayer->mStore.isFull())
         return;
     sLayer->mDisplayScale = scale;
     sLayer->mStore.reset();

@@ -4,8 +4,9 @@
 // The font layer: what all fonts (znCGraphicsFont) and laid-out texts (znCGraphicsText) share, above all the one
 // texture that holds every glyph.
 //
-// initialise() comes after znNGraphics::initialise() and before the first font, terminate() after the last font is gone
-// and before znNGraphics::terminate(). Outside the two, fonts are empty and texts have no glyphs.
+// initialise() comes after znNGraphics::initialise() and before the first font is loaded, terminate() before
+// znNGraphics::terminate(). Outside the two, fonts are empty and texts have no glyphs; fonts that outlive terminate()
+// can only be loaded anew or deleted.
 
 #include "zncore/znTypes.h"
 
@@ -20,9 +21,10 @@ void terminate();
 // A font to look in for what another font lacks, after those that were added before it. It is read when first needed.
 void fallbackAdd(const znCResourceName& pName);
 
-// Device pixels to a canvas unit; 1 at first. Glyphs are drawn for this scale, texts are laid out without regard to it.
-// A change makes every text place its glyphs anew (znCGraphicsText::refresh); the same value again costs nothing.
-void displayScaleSet(float pScale);
+// Once a frame, before texts are refreshed and drawn. The scale is device pixels to a canvas unit, 1 at first: glyphs
+// are drawn for it, texts are laid out without regard to it. When it changes, or when the glyph texture was full, every
+// text places its glyphs anew in its refresh(); otherwise this costs nothing. A scale that is none leaves the last one.
+void frameBegin(float pDisplayScale);
 float displayScaleGet();
 
 // White glyphs with their coverage as alpha, in a texture that grows: ask for it at each draw. Null before the first

@@ -47,7 +47,8 @@ const char* znCFontFace::open(FT_Library pLibrary)
     if (!FT_IS_SCALABLE(mFace))
         return "not a font of outlines";
     hb_blob_t* blob = hb_blob_create(reinterpret_cast<const char*>(mBytes.get()), static_cast<unsigned>(mSize),
-                                     HB_MEMORY_MODE_READONLY, nullptr, nullptr);
+                                     HB_MEMORY_MODE_READONLY, new std::shared_ptr<u8[]>(mBytes),
+                                     [](void* pHolder) { delete static_cast<std::shared_ptr<u8[]>*>(pHolder); });
     mShaperFace = hb_face_create(blob, 0);
     hb_blob_destroy(blob);
     return nullptr;

@@ -53,7 +53,7 @@ private:
 
     std::string mName;
     s32 mId;
-    std::unique_ptr<u8[]> mBytes;
+    std::shared_ptr<u8[]> mBytes; // the shaper may hold on to them longer than this object
     s32 mSize = 0;
     FT_Face mFace = nullptr;          // owned; reads mBytes
     hb_face_t* mShaperFace = nullptr; // owned; reads mBytes

@@ -52,7 +52,6 @@ s32 znCGlyphStore::entryAdd(const u8* pPixels, s32 pPitch, Entry pEntry)
             ZN_LOG("The glyph texture is full (%d,%d).\n", mWidth, mHeight);
         mFull = true;
         mFullLogged = true;
-        mFullFrame = znNGraphics::frameNumberGet();
         return sNoRoom;
     }
     if (pPixels != nullptr)
@@ -146,10 +145,4 @@ void znCGlyphStore::reset()
         return;
     std::fill(mTexels.begin(), mTexels.end(), u8{0});
     textureRenew();
-}
-
-void znCGlyphStore::roomMake()
-{
-    if (mFull && mFullFrame != znNGraphics::frameNumberGet())
-        reset();
 }

@@ -2,8 +2,8 @@
 #define MEDIA_IMPL_ZNCGLYPHSTORE_H
 
 // Every glyph that was ever drawn, once for each face and size in pixels, in one texture. The texture starts small and
-// doubles when it is full. At its largest, a glyph that finds no room is left out until the next frame, in which the
-// store starts anew with what is then in use.
+// doubles when it is full. At its largest, a glyph that finds no room is left out until the owner
+// resets the store at the start of a frame; it then fills with what is in use.
 
 #include <memory>
 #include <unordered_map>
@@ -43,8 +43,8 @@ public:
     u32 placeGenerationGet() const { return mPlaceGeneration; }
     // Changes with each reset and each growth: UVs are then of no use.
     u32 uvGenerationGet() const { return mUvGeneration; }
-    // If glyphs were left out in an earlier frame, starts anew.
-    void roomMake();
+    // A glyph was left out since the last reset.
+    bool isFull() const { return mFull; }
 
     const znCGraphicsTexture* textureGet() const { return mTexture.get(); }
     s32 widthGet() const { return mWidth; }
@@ -85,7 +85,6 @@ private:
     // Textures that runs of this frame may still be drawn from, freed in a later one.
     std::vector<std::unique_ptr<znCGraphicsTexture>> mRetired;
     u32 mRetiredFrame = 0;
-    u32 mFullFrame = 0;
     bool mFull = false;
     bool mFullLogged = false;
     s32 mWidth = 0;

@@ -295,7 +295,7 @@ TEST_F(znCGraphicsTextTest, EachGlyphIsDrawnOnceASizeAndAgainForAnotherScale)
     for (const float scale : {1.5f, 0.75f, 1.0f})
     {
         SCOPED_TRACE(scale);
-        znNFonts::displayScaleSet(scale);
+        znNFonts::frameBegin(scale);
         const s32 drawn = znNFonts::glyphsRasterisedGet();
         EXPECT_TRUE(text.refresh());
         EXPECT_FALSE(text.refresh());
@@ -315,7 +315,7 @@ TEST_F(znCGraphicsTextTest, EachGlyphIsDrawnOnceASizeAndAgainForAnotherScale)
     }
     const float scale = znNFonts::displayScaleGet();
     for (const float bad : {0.0f, -1.0f, NAN})
-        znNFonts::displayScaleSet(bad);
+        znNFonts::frameBegin(bad);
     EXPECT_EQ(znNFonts::displayScaleGet(), scale);
 }
 
@@ -339,7 +339,7 @@ TEST_F(znCGraphicsTextTest, AGrowingGlyphTextureKeepsTheGlyphsOfOlderTexts)
         EXPECT_EQ(texelsGet(text, i), texels[static_cast<std::size_t>(i)]);
 }
 
-TEST_F(znCGraphicsTextTest, AFullGlyphTextureStartsAnewInTheNextFrame)
+TEST_F(znCGraphicsTextTest, AFullGlyphTextureStartsAnewWithTheNextFrame)
 {
     mPlatform.mDraw.mSizeLimit = 64;
     znCGraphicsText first = textMake("abcdefghij");
@@ -347,6 +347,7 @@ TEST_F(znCGraphicsTextTest, AFullGlyphTextureStartsAnewInTheNextFrame)
     EXPECT_LT(second.glyphCountGet(), 4);
     EXPECT_FALSE(second.refresh()) << "what this frame has queued still needs the glyphs";
     znNGraphics::flush();
+    znNFonts::frameBegin(1.0f);
     EXPECT_TRUE(second.refresh());
     EXPECT_EQ(second.glyphCountGet(), 4);
     EXPECT_EQ(mPlatform.logCountGet("glyph texture is full"), 1);
