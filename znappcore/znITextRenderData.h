@@ -45,15 +45,18 @@ public:
     void initialise(const std::string& pText, znIFont* pFont);
     void textSet(const std::string& pText);
     const std::string& textGet() const { return mText; }
-    // The box that the text is laid out in, its centre at the origin.
+    // The box that the text is laid out in, its centre at the origin; the size of the canvas at first. Before
+    // initialise both log "Not initialised.\n", and what was set counts from initialise on.
     void formattingRectSizeSet(s32 pWidth, s32 pHeight);
-    // 0 left, 1 centre, 2 right; 0 top, 1 middle, 2 bottom.
+    // 0 left, 1 centre, 2 right; 0 top, 1 middle, 2 bottom. Other values log "Unhandled horizontal text alignment.\n"
+    // or "Unhandled vertical text alignment.\n" and mean 2.
     void alignmentSet(s32 pH, s32 pV);
+    const znPoint& formattingRectSizeGet() const { return mFormattingRectSize; }
     // Null until initialise.
     znIFont* fontGet() const { return mFont; }
 
 protected:
-    znITextRenderData() = default;
+    znITextRenderData();
     znITextRenderData(const znITextRenderData&) = default;
     znITextRenderData& operator=(const znITextRenderData&) = default;
 
