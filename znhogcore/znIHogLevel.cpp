@@ -1,11 +1,13 @@
 #include "znhogcore/znIHogLevel.h"
 
+#include "znappcore/components/gui/znIGuiComponent.h"
 #include "znappcore/src/znCGuiMessageDispatcher.h"
 #include "znappcore/src/znCUserSavedData.h"
 #include "znappcore/znCEmptyMessageData.h"
 #include "znappcore/znIAudioManager.h"
 #include "zncore/debug/znIDebug.h"
 #include "zncore/znCResourceName.h"
+#include "zncore/znIFile.h"
 #include "zncore/znNCoreUtils.h"
 #include "znhogcore/components/znCHogLevelLoaderComponent.h"
 #include "znhogcore/components/znCSubSceneComponent.h"
@@ -23,7 +25,9 @@ constexpr char TABLE_EXTENSION[] = ".txt";
 constexpr char NEXT_LEVEL_KEY[] = "ACT1NextLev";
 constexpr char MUSIC_KEY[] = "music";
 constexpr char AMBIENT_KEY[] = "ambient";
-constexpr char PLAY_TIME_KEY[] = "time"; // of the player's data: milliseconds in all levels
+constexpr char GUI_KEY[] = "GUI";
+constexpr char GUI_FILE[] = "gui/hogGui/hogGui.txt"; // of a level that names none
+constexpr char PLAY_TIME_KEY[] = "time";             // of the player's data: milliseconds in all levels
 constexpr s32 PLACING_STEP_MS = 1;
 } // namespace
 
@@ -90,6 +94,7 @@ void znIHogLevel::levelLoad(const std::string& pName)
     sceneLoad();
     subScenesStore();
     levelInitialise();
+    guiCreate();
     savedStateLoad();
     znCUserSavedData::instanceGet()->strSet(znCHogCoreMain::CURRENT_LEVEL_KEY, mLevelName);
     // Everything is placed before anyone hears that the level stands.
@@ -123,6 +128,19 @@ void znIHogLevel::subScenesStore()
         mSubScenes.push_back(entity);
     }
     ZN_ASSERT(!mSubScenes.empty(), "There is no scene in the folder %s.\n", mLevelFolder.c_str());
+}
+
+void znIHogLevel::guiCreate()
+{
+    const std::string fileName = mVariables.strGet(GUI_KEY, GUI_FILE);
+    const znCResourceName file(fileName, znCResourceName::GAME_DATA);
+    if (!znIFile::existsGet(file))
+    {
+        ZN_LOG("The level %s goes without a GUI: there is no file %s.\n", mLevelName.c_str(), fileName.c_str());
+        return;
+    }
+    if (znCEntity* gui = znIGuiComponent::guiCreateFromFile(file, nullptr, false))
+        childAdd(gui);
 }
 
 void znIHogLevel::savedStateLoad()

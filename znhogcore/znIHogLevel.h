@@ -66,6 +66,7 @@ protected:
 
 private:
     void sceneLoad();
+    void guiCreate();
     void savedStateLoad();
     void soundStart();
 };

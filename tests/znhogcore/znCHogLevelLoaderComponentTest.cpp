@@ -162,7 +162,7 @@ TEST_F(znCHogLevelLoaderComponentTest, takesAtMostSoManyEntities)
     const std::vector<std::string> lines = linesTake();
     EXPECT_EQ(
         std::count(lines.begin(), lines.end(),
-                   "scenes/quay/coords.txt line 10001: a scene has at most 10000 entities; the rest is left out."),
+                   "scenes/quay/coords.txt line 4001: a scene has at most 4000 entities; the rest is left out."),
         1);
 }
 

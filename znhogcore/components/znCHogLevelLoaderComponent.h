@@ -19,7 +19,7 @@ class znCHogLevelLoaderComponent : public znIComponent
 public:
     static constexpr znCUniqueId TYPE{"znCHogLevelLoaderComponent"};
 
-    static constexpr std::size_t ENTITIES_MAX = 10000; // of one scene
+    static constexpr std::size_t ENTITIES_MAX = 4000; // of one scene
     static constexpr std::size_t NAME_MAX_BYTES = 255;
 
     using znIComponent::znIComponent;

@@ -1,9 +1,12 @@
 #include "znhogcore/src/znCHogCoreMain.h"
 
+#include "znappcore/components/gui/znIGuiComponent.h"
 #include "znappcore/src/znCAppSettings.h"
 #include "znappcore/src/znCBrushManager.h"
+#include "znappcore/src/znCEntity.h"
 #include "znappcore/src/znCUserSavedData.h"
 #include "znappcore/znIAudioManager.h"
+#include "zncore/znCResourceName.h"
 #include "znhogcore/src/znCCollectionEffectFactory.h"
 #include "znhogcore/src/znCHogComponentFactory.h"
 #include "znhogcore/src/znCHogEntityFactory.h"
@@ -13,6 +16,8 @@
 namespace
 {
 constexpr char MAIN_MENU_NAME[] = "MainMenuGui";
+constexpr char GUI_FILE_MARK[] = ".txt";
+constexpr std::size_t LEVEL_NAME_SHORT = 3; // no file's name is as short
 } // namespace
 
 znCHogCoreMain* znCHogCoreMain::instanceGet()
@@ -66,6 +71,7 @@ void znCHogCoreMain::nextScreenAndCurrLevSet(const std::string& pScreen)
 
 void znCHogCoreMain::firstSceneSet()
 {
+    znCUserSavedData::instanceGet()->progressClear();
     mNextScreen = znCAppSettings::instanceGet()->strGet(FIRST_SCENE_KEY);
 }
 
@@ -96,6 +102,16 @@ void znCHogCoreMain::levelStart()
 {
     znCBrushManager::instanceGet()->brushesClear();
     znIAudioManager::instanceGet()->effectsClear();
-    znIHogLevel::create(mNextScreen);
+    if (mNextScreen.size() > LEVEL_NAME_SHORT && mNextScreen.find(GUI_FILE_MARK) != std::string::npos)
+        guiScreenOpen();
+    else
+        znIHogLevel::create(mNextScreen);
     mNextScreen.clear();
+}
+
+void znCHogCoreMain::guiScreenOpen()
+{
+    const znCResourceName file(mNextScreen, znCResourceName::GAME_DATA);
+    if (znCEntity* gui = znIGuiComponent::guiCreateFromFile(file, nullptr, true))
+        appDisplayChildAdd(gui);
 }

@@ -29,7 +29,7 @@ public:
     void nextScreenSet(const std::string& pScreen);
     // The same, and play continues there after the next start.
     void nextScreenAndCurrLevSet(const std::string& pScreen);
-    // Makes the scene of the application's settings the pending screen.
+    // Starts the player's progress over and makes the first scene of the application's settings the pending screen.
     void firstSceneSet();
 
     ~znCHogCoreMain() override = default;
@@ -48,6 +48,7 @@ protected:
 
 private:
     void mapRuleApply();
+    void guiScreenOpen();
 
     std::string mNextScreen; // empty: none is pending
 };

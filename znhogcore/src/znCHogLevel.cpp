@@ -1,7 +1,10 @@
 #include "znhogcore/src/znCHogLevel.h"
 
+#include "znappcore/components/gui/znIGuiComponent.h"
+#include "znappcore/src/znCAppSettings.h"
 #include "znappcore/znCEmptyMessageData.h"
 #include "zncore/debug/znIDebug.h"
+#include "zncore/znCResourceName.h"
 #include "znhogcore/components/znCHotComponent.h"
 #include "znhogcore/components/znCLockComponent.h"
 #include "znhogcore/src/znCHogCoreMain.h"
@@ -16,6 +19,8 @@ constexpr znCUniqueId MESSAGES[] = {
     znCHogMessageDispatcher::CONVERSATION_COMPLETE,
 };
 constexpr char CONVERSATION_AFTER[] = "-post";
+constexpr char ROUND_SCORE_NAME[] = "roundScoreGui";
+constexpr char REWARD_LAYOUT_KEY[] = "rewardLayoutFile"; // of the level's table and of the application's settings
 } // namespace
 
 void znCHogLevel::messagesRegister()
@@ -82,7 +87,38 @@ void znCHogLevel::nonPickListCollectableEntitiesActivate()
 
 void znCHogLevel::levelEndProcess()
 {
-    levelNext();
+    if (!roundScoreOpen())
+        levelNext();
+}
+
+// False if it has been shown already or there is none.
+bool znCHogLevel::roundScoreOpen()
+{
+    std::string file = mVariables.strGet(REWARD_LAYOUT_KEY);
+    if (file.empty())
+        file = znCAppSettings::instanceGet()->strGet(REWARD_LAYOUT_KEY);
+    if (file.empty() || roundScoreStands())
+        return false;
+    znCEntity* roundScore =
+        znIGuiComponent::guiCreateFromFile(znCResourceName(file, znCResourceName::GAME_DATA), nullptr, true);
+    if (roundScore == nullptr)
+        return false; // a level must not end in a file that is missing
+    parentGet()->childAdd(roundScore);
+    return true;
+}
+
+bool znCHogLevel::roundScoreStands() const
+{
+    return parentGet()->childFind(ROUND_SCORE_NAME) != nullptr;
+}
+
+void znCHogLevel::shutDownStateFix()
+{
+    if (!roundScoreStands())
+        return;
+    // As if the player had left by its continue button.
+    levelReset();
+    znCHogCoreMain::instanceGet()->nextScreenAndCurrLevSet(nextLevelGet());
 }
 
 void znCHogLevel::levelNext()

@@ -13,6 +13,7 @@ public:
     void messagesDeregister() override;
     bool messageProcess(const znCUniqueId& pType, void* pData) override;
 
+    void shutDownStateFix() override;
     void levelInitialise() override;
 
     // Locks and hot objects can be collected from the first moment; all others wait for a pick list.
@@ -20,6 +21,8 @@ public:
 
 private:
     void levelEndProcess();
+    bool roundScoreOpen();
+    bool roundScoreStands() const;
     void levelNext();
     void levelReset();
 
