@@ -27,6 +27,9 @@ endif()
 # Paths in the log start at the repository's root, wherever it was built.
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
                     -ffile-prefix-map=${CMAKE_SOURCE_DIR}/=)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_compile_options(-Wno-restrict) # GCC 12 sees overlaps in its own std::string that cannot be
+endif()
 if(PETREL_WERROR)
     add_compile_options(-Werror)
 endif()
