@@ -33,7 +33,9 @@ public:
     virtual ~znCVariableTable() = default;
     znCVariableTable() = default;
     znCVariableTable(const znCVariableTable&) = default;
+    znCVariableTable(znCVariableTable&&) = default;
     znCVariableTable& operator=(const znCVariableTable&) = default;
+    znCVariableTable& operator=(znCVariableTable&&) = default;
 
     // A missing key answers the default; without one "", 0, 0 or false. Numbers are the leading decimal number of the
     // value, 0 if there is none, the nearest possible value if it doesn't fit. A bool is true for exactly "1" or
