@@ -72,6 +72,13 @@ std::string settingCheck(const std::string& pText)
     return "\"" + pText + "\" is no GROUP.KEY=VALUE with a value of at most 255 bytes";
 }
 
+std::string seedCheck(const std::string& pText)
+{
+    u64 seed = 0;
+    const auto [end, error] = std::from_chars(pText.data(), pText.data() + pText.size(), seed);
+    return error == std::errc() && end == pText.data() + pText.size() ? "" : "\"" + pText + "\" is no number from 0 up";
+}
+
 void pathOptionsAdd(CLI::App& pApp, Texts& pTexts)
 {
     pApp.add_option("--data", pTexts.mData);
@@ -91,7 +98,7 @@ void pictureOptionsAdd(CLI::App& pApp, Texts& pTexts, znCOptions& pOptions)
 void runOptionsAdd(CLI::App& pApp, Texts& pTexts, znCOptions& pOptions)
 {
     pApp.add_option("--step", pOptions.mStepMs)->check(CLI::Range(1, 1000));
-    pApp.add_option("--seed", pTexts.mSeed);
+    pApp.add_option("--seed", pTexts.mSeed)->check(seedCheck);
     pApp.add_option("--frames", pOptions.mFrameLimit)->check(CLI::Range(u64(1), u64(1) << 62));
     pApp.add_option("--script", pTexts.mScript);
     pApp.add_option("--record", pTexts.mRecord);

@@ -4,6 +4,7 @@
 #include "loader/znCDisplayModes.h"
 #include "loader/znNTextFile.h"
 
+#include <algorithm>
 #include <limits>
 
 std::string znCRecordingHeader::textGet() const
@@ -24,7 +25,9 @@ std::string znCRecordingHeader::textGet() const
 
 bool znCRecordingHeader::lineParse(std::string_view pLine)
 {
+    const std::string_view line = pLine;
     const std::string_view word = znNTextFile::wordTake(pLine);
+    const std::string text = znNTextFile::unescaped(line.substr(std::min(line.size(), word.size() + 1)));
     s32 flag = 0;
     if (word == "start")
         return znNTextFile::numberParse(pLine, u64(0), std::numeric_limits<u64>::max(), mStartMs);
@@ -33,7 +36,7 @@ bool znCRecordingHeader::lineParse(std::string_view pLine)
     if (word == "size")
         return znCCommandLine::sizeParse(std::string(pLine), mWidth, mHeight);
     if (word == "set")
-        return znCCommandLine::settingParse(znNTextFile::unescaped(pLine), mSettings.emplace_back());
+        return znCCommandLine::settingParse(text, mSettings.emplace_back());
     if (word == "modes")
     {
         mDisplayModes = pLine;
@@ -41,7 +44,7 @@ bool znCRecordingHeader::lineParse(std::string_view pLine)
     }
     if (word == "arg")
     {
-        mArguments.push_back(znNTextFile::unescaped(pLine));
+        mArguments.push_back(text); // blanks at its start are its own
         return true;
     }
     if (word != "touch" || !znNTextFile::numberParse(pLine, 0, 1, flag))
