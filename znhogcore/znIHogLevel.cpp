@@ -1,7 +1,9 @@
 #include "znhogcore/znIHogLevel.h"
 
 #include "znappcore/components/gui/znIGuiComponent.h"
+#include "znappcore/components/znCTextSpriteComponent.h"
 #include "znappcore/src/znCGuiMessageDispatcher.h"
+#include "znappcore/src/znCLocalisedStrings.h"
 #include "znappcore/src/znCUserSavedData.h"
 #include "znappcore/znCEmptyMessageData.h"
 #include "znappcore/znIAudioManager.h"
@@ -26,8 +28,10 @@ constexpr char NEXT_LEVEL_KEY[] = "ACT1NextLev";
 constexpr char MUSIC_KEY[] = "music";
 constexpr char AMBIENT_KEY[] = "ambient";
 constexpr char GUI_KEY[] = "GUI";
-constexpr char GUI_FILE[] = "gui/hogGui/hogGui.txt"; // of a level that names none
-constexpr char PLAY_TIME_KEY[] = "time";             // of the player's data: milliseconds in all levels
+constexpr char HELP_TEXT_KEY[] = "helpText";
+constexpr char GUI_FILE[] = "gui/hogGui/hogGui.txt";     // of a level that names none
+constexpr char PLAY_TIME_KEY[] = "time";                 // of the player's data: milliseconds in all levels
+constexpr char HELP_TEXT_NAME[] = "GUIMinigameHelpText"; // of a text in the level's GUI
 constexpr s32 PLACING_STEP_MS = 1;
 } // namespace
 
@@ -96,6 +100,7 @@ void znIHogLevel::levelLoad(const std::string& pName)
     levelInitialise();
     guiCreate();
     savedStateLoad();
+    miniGameHelpSet();
     znCUserSavedData::instanceGet()->strSet(znCHogCoreMain::CURRENT_LEVEL_KEY, mLevelName);
     // Everything is placed before anyone hears that the level stands.
     parentGet()->treeUpdate(PLACING_STEP_MS);
@@ -149,6 +154,18 @@ void znIHogLevel::savedStateLoad()
     if (!state.empty())
         treeLoad(state);
     postLoadDo();
+}
+
+void znIHogLevel::miniGameHelpSet()
+{
+    const std::string key = mVariables.strGet(HELP_TEXT_KEY);
+    if (key.empty())
+        return;
+    const auto* entity = dynamic_cast<znCEntity*>(childFind(HELP_TEXT_NAME));
+    auto* text = entity != nullptr ? entity->componentFind<znCTextSpriteComponent>() : nullptr;
+    ZN_ASSERT(text != nullptr, "Expected GUIMinigameHelpText entity to have a text sprite component.\n");
+    if (text != nullptr)
+        text->textSet(znCLocalisedStrings::localisedStringGet(key));
 }
 
 void znIHogLevel::stateSave()

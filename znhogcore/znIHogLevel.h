@@ -49,8 +49,9 @@ public:
     // On the GUI dispatcher: the screen is dark.
     static constexpr znCUniqueId FADE_OUT_COMPLETE{"FadeOutComplete"};
 
-    // A step of levelLoad().
+    // Steps of levelLoad().
     void subScenesStore();
+    void miniGameHelpSet();
 
 protected:
     znIHogLevel();

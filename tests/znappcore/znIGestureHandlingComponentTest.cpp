@@ -198,6 +198,7 @@ TEST_F(znIGestureHandlingComponentTest, makesGesturesOfPointers)
         {true, TAP | DRAG, "D0 100 100 D1 110 110 U0 100 100 U1 110 110", "1111", "lit; unlit; tap; "},
         {true, DRAG, "D0 100 100 D1 300 300 U0 100 100 U1 300 300", "1111",
          "start 100,100; move 100,100; move 100,100; end 100,100; "},
+        {true, TWO, "D0 100 100 U0 100 100", "00", ""}, // one finger alone is nothing to it
         {true, TWO, "D1 100 100 M1 102 100 U1 102 100", "111",
          "two 0,0 100,100; twoMove1 2,0; twoMove1 0,0; twoEnd1; "}, // the first finger is elsewhere
     };

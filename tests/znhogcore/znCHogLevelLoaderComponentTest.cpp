@@ -160,10 +160,9 @@ TEST_F(znCHogLevelLoaderComponentTest, takesAtMostSoManyEntities)
     sceneOpen("quay");
     EXPECT_EQ(find("SubScene0")->childrenGet().size(), znCHogLevelLoaderComponent::ENTITIES_MAX - 1);
     const std::vector<std::string> lines = linesTake();
-    EXPECT_EQ(
-        std::count(lines.begin(), lines.end(),
-                   "scenes/quay/coords.txt line 4001: a scene has at most 4000 entities; the rest is left out."),
-        1);
+    EXPECT_EQ(std::count(lines.begin(), lines.end(),
+                         "scenes/quay/coords.txt line 4001: a scene has at most 4000 entities; the rest is left out."),
+              1);
 }
 
 TEST_F(znCHogLevelLoaderComponentTest, findsThePictures)

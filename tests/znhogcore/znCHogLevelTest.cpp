@@ -1,7 +1,11 @@
 #include "znhogcore/src/znCHogLevel.h"
 
+#include "tests/support/allocationCount.h"
 #include "tests/znhogcore/znCHogTest.h"
+#include "znappcore/components/znCTextSpriteComponent.h"
 #include "znappcore/src/znCUserSavedData.h"
+#include "znappcore/znIDisplay.h"
+#include "znappcore/znIInputManager.h"
 #include "znhogcore/src/znCHogMessageDispatcher.h"
 
 namespace
@@ -18,6 +22,12 @@ protected:
         sceneOpen("quay");
     }
     static znINode* roundScoreFind() { return znCAppCoreMain::instanceGet()->appDisplayChildFind("roundScoreGui"); }
+    static s3ePointerMotionEvent* motionAt(s32 pX)
+    {
+        static s3ePointerMotionEvent sEvent;
+        sEvent = {pX, CANVAS_HEIGHT / 2};
+        return &sEvent;
+    }
     static std::string userGet(const std::string& pKey) { return znCUserSavedData::instanceGet()->strGet(pKey); }
     std::string nextGet() // the screen that follows
     {
@@ -99,6 +109,44 @@ TEST_F(znCHogLevelTest, hasItsOwnGuiOrNone)
     EXPECT_EQ(
         std::count(lines.begin(), lines.end(), "The level quay goes without a GUI: there is no file gui/missing.txt."),
         1);
+}
+
+TEST_F(znCHogLevelTest, putsItsHelpTextIntoItsGui)
+{
+    mPlatform.mFiles.fileSet(
+        "gui/own.txt", "znCTextSpriteComponent {\n name = GUIMinigameHelpText\n font = f.ttf\n fontSize = 20\n}\n");
+    open("GUI = \"gui/own.txt\",\r\nhelpText = \"PCK-lantern\",\r\n");
+    EXPECT_EQ(find("GUIMinigameHelpText")->componentFind<znCTextSpriteComponent>()->textGet(), "the old lantern");
+    levelEnd();
+    errorsTake(); // of the font
+    mPlatform.mFiles.fileSet("gui/own.txt", "znCSpriteComponent {\n name = ownGui\n}\n");
+    open("GUI = \"gui/own.txt\",\r\nhelpText = \"PCK-lantern\",\r\n");
+    EXPECT_EQ(errorsTake(),
+              std::vector<std::string>{"Expected GUIMinigameHelpText entity to have a text sprite component."});
+}
+
+TEST_F(znCHogLevelTest, asksForNoMemoryWhileNothingHappens)
+{
+    std::string coords = "Background.png,0,0\n";
+    for (s32 i = 0; i < 300; ++i)
+        coords += "HOT-CMN-" + std::to_string(i % 10) + ".png," + std::to_string(i) + ",10\n";
+    for (s32 i = 0; i < 10; ++i)
+        imageSet("common/" + std::to_string(i) + ".png", 20, 20);
+    sceneSet("quay", coords);
+    sceneOpen("quay");
+    frame(3);
+    for (s32 i = 0; i < 2; ++i) // the first round may make room
+    {
+        const std::size_t before = allocationCountGet();
+        for (s32 x = 0; x < 10; ++x)
+        {
+            mPlatform.mInput.mPointer.send(S3E_POINTER_MOTION_EVENT, motionAt(x * 20 + i));
+            znIInputManager::instanceGet()->update();
+            znIDisplay::instanceGet()->treeUpdate(FRAME_MS);
+        }
+        if (i > 0)
+            EXPECT_EQ(allocationCountGet() - before, 0u);
+    }
 }
 
 TEST_F(znCHogLevelTest, playsItsSound)

@@ -6,7 +6,9 @@
 #include "znappcore/znCEmptyMessageData.h"
 #include "znhogcore/src/znCHogMessageDispatcher.h"
 
+#include <map>
 #include <sstream>
+#include <tuple>
 
 namespace
 {
@@ -91,16 +93,23 @@ void znCHogTest::programStop()
     znCAppCoreMain::destroy();
 }
 
+// Packing a picture of the canvas's size takes longer than most tests, so equal ones are made once.
 void znCHogTest::imageSet(const std::string& pName, s32 pWidth, s32 pHeight, const std::string& pAlpha)
 {
-    znNTestImages::Bytes pixels;
-    for (s32 i = 0; i < pWidth * pHeight; ++i)
+    static std::map<std::tuple<s32, s32, std::string>, std::string> sMade;
+    std::string& file = sMade[{pWidth, pHeight, pAlpha}];
+    if (file.empty())
     {
-        const bool clear = pAlpha[static_cast<std::size_t>(i) % pAlpha.size()] == '.';
-        pixels.insert(pixels.end(), {10, 20, 30, static_cast<u8>(clear ? 0 : 255)});
+        znNTestImages::Bytes pixels;
+        for (s32 i = 0; i < pWidth * pHeight; ++i)
+        {
+            const bool clear = pAlpha[static_cast<std::size_t>(i) % pAlpha.size()] == '.';
+            pixels.insert(pixels.end(), {10, 20, 30, static_cast<u8>(clear ? 0 : 255)});
+        }
+        const znNTestImages::Bytes bytes = znNTestImages::pngMake(pWidth, pHeight, pixels);
+        file.assign(bytes.begin(), bytes.end());
     }
-    const znNTestImages::Bytes file = znNTestImages::pngMake(pWidth, pHeight, pixels);
-    mPlatform.mFiles.fileSet(pName, std::string(file.begin(), file.end()));
+    mPlatform.mFiles.fileSet(pName, file);
 }
 
 void znCHogTest::sceneSet(const std::string& pName, const std::string& pCoords, const std::string& pTable)

@@ -119,11 +119,13 @@ bool znIGestureHandlingComponent::gestureStartProcess(const znCPointerMessage& p
     }
     if (pMessage.mId != 0)
         return secondPointerFirstProcess(pMessage);
+    if (!mTapEnabled && !mDragEnabled)
+        return false;
     if (mState == STATE_IDLE)
         priorityTake();
     if (mTapEnabled)
         pressStartProcess(pMessage, mDragEnabled || mTwoPointerEnabled ? STATE_UNDECIDED : STATE_TAPPING);
-    else if (mDragEnabled)
+    else
         dragBeginProcess(pMessage, pMessage.mId);
     ++mPointersDown;
     return true;
