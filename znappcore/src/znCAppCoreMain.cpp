@@ -16,6 +16,7 @@
 #include "znappcore/znINode.h"
 #include "znappcore/znIRenderer.h"
 #include "zncore/debug/znIDebug.h"
+#include "zncore/xml/znCXmlParser.h"
 
 namespace
 {
@@ -76,6 +77,7 @@ void znCAppCoreMain::shutDown()
     znCEntityFactory::destroy();
     znCComponentFactory::destroy();
     factoriesDestroy();
+    znCXmlParser::poolsDestroy();
     znIDisplay::destroy(); // deletes the whole tree
     mAppDisplayNode = nullptr;
     znCProfileManager::destroy(); // writes the saved data once more
