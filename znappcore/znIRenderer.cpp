@@ -1,6 +1,7 @@
 #include "znappcore/znIRenderer.h"
 
 #include "znappcore/impl/platform/znCRenderer.h"
+#include "znappcore/src/znCFontManager.h"
 #include "znappcore/src/znCRenderJobSprites.h"
 #include "znappcore/src/znCRenderJobText.h"
 #include "znappcore/znISpriteRenderData.h"
@@ -58,6 +59,7 @@ znIRenderer::~znIRenderer() = default;
 
 void znIRenderer::initialise()
 {
+    znCFontManager::create();
     mSprites = arrayMake<znISpriteRenderData*>(mMaxSprites);
     mMaterials = arrayMake<const znCMaterial*>(mMaxMaterialChanges);
     mMaterialSpriteCounts = arrayMake<s32>(mMaxMaterialChanges);
@@ -78,6 +80,7 @@ void znIRenderer::terminate()
     mTexts.reset();
     mFonts.reset();
     mFontTextCounts.reset();
+    znCFontManager::destroy();
 }
 
 void znIRenderer::frameClear()
@@ -95,6 +98,8 @@ void znIRenderer::frameBegin()
     mTextCount = 0;
     mMaterialIndex = -1;
     mFontIndex = -1;
+    if (znCFontManager* fonts = znCFontManager::instanceGet())
+        fonts->frameBegin();
     readCursorsReset();
     mState = STATE_BATCHING;
 }

@@ -3,13 +3,17 @@
 #include "znappcore/znIDisplay.h"
 #include "zncore/debug/znIDebug.h"
 
-znITextRenderData::znITextRenderData()
+namespace
+{
+constexpr s32 BOX_WIDTH = 1024; // where there is no canvas to take the size of
+constexpr s32 BOX_HEIGHT = 768;
+} // namespace
+
+znITextRenderData::znITextRenderData() : mFormattingRectSize(BOX_WIDTH, BOX_HEIGHT)
 {
     if (znIDisplay::existsGet())
         mFormattingRectSize =
             znPoint(znIDisplay::instanceGet()->canvasWidthGet(), znIDisplay::instanceGet()->canvasHeightGet());
-    else
-        mFormattingRectSize = znPoint(0, 0);
 }
 
 void znITextRenderData::initialise(const std::string& pText, znIFont* pFont)

@@ -6,7 +6,9 @@
 #include "znappcore/components/gui/elements/znCSliderComponent.h"
 #include "znappcore/components/gui/znCModalGuiComponent.h"
 #include "znappcore/components/znCDragDropComponent.h"
+#include "znappcore/components/znCRevealingTextSpriteComponent.h"
 #include "znappcore/components/znCSpriteComponent.h"
+#include "znappcore/components/znCTextSpriteComponent.h"
 #include "znappcore/znIComponent.h"
 #include "znappcore/znIMessageListener.h"
 #include "zncore/debug/znIDebug.h"
@@ -45,6 +47,8 @@ void znCComponentFactory::componentsRegister()
 {
     componentRegister<znCDragDropComponent>();
     componentRegister<znCSpriteComponent>();
+    componentRegister<znCTextSpriteComponent>();
+    componentRegister<znCRevealingTextSpriteComponent>();
     componentRegister<znCButtonComponent>();
     componentRegister<znCCheckBoxComponent>();
     componentRegister<znCCheckBoxGroupComponent>();

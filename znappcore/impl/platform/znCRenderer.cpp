@@ -1,5 +1,6 @@
 #include "znappcore/impl/platform/znCRenderer.h"
 
+#include "media/znNFonts.h"
 #include "media/znNGraphics.h"
 #include "znappcore/src/znCSpriteRenderData.h"
 #include "znappcore/znITextRenderData.h"
@@ -24,6 +25,7 @@ znCRenderer::znCRenderer(s32 pMaxSprites, s32 pMaxMaterialChanges) : znIRenderer
 
 void znCRenderer::platformInitialise()
 {
+    znNFonts::initialise();
     const std::size_t runs = static_cast<std::size_t>(mMaxMaterialChanges);
     mVertexStreams = std::make_unique<znPointF*[]>(runs);
     mUvStreams = std::make_unique<znPointF*[]>(runs);
@@ -32,6 +34,7 @@ void znCRenderer::platformInitialise()
 
 void znCRenderer::platformTerminate()
 {
+    znNFonts::terminate();
     mVertexStreams.reset();
     mUvStreams.reset();
     mColourStreams.reset();
