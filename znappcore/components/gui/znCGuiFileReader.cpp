@@ -40,9 +40,9 @@ znCEntity* znCGuiFileReader::fileRead(const znCResourceName& pFile)
 }
 
 // The next token; its own fault is logged.
-bool znCGuiFileReader::tokenNext(Token& pToken)
+bool znCGuiFileReader::tokenNext(Token& pToken, bool pValue)
 {
-    if (mFaults > FAULT_LIMIT || !mText.tokenNext(pToken))
+    if (mFaults > FAULT_LIMIT || !mText.tokenNext(pToken, pValue))
         return false;
     if (pToken.mQuoteMissing)
         fault(pToken.mPlace, "Missing '\"' in string.\n");
@@ -136,10 +136,7 @@ void znCGuiFileReader::styleRead(const Token& pKeyword)
     if (!named)
         fault(name.mPlace, "Expected a longer name for a style than '%s'.\n", text.c_str());
     if (!mText.characterTake('{'))
-    {
         fault(name.mPlace, "Missing '{' in style definition %s.\n", text.c_str());
-        return;
-    }
     const znCGuiText::Block block = mText.blockTake(std::max(pKeyword.mIndent, 0));
     if (!block.mClosed)
         fault(pKeyword.mPlace, "Missing '}' in style definition %s.\n", text.c_str());
@@ -173,7 +170,6 @@ void znCGuiFileReader::blockSkip()
     Token token;
     for (s32 depth = 1; depth > 0 && tokenNext(token);)
     {
-        mText.braceSplit(token);
         stepOver(token);
         depth += token.depthChangeGet();
     }
@@ -291,7 +287,7 @@ void znCGuiFileReader::settingRead(Element& pElement, const Token& pKey)
     if (pKey.mText.empty())
         fault(pKey.mPlace, "A key or a value is missing before '='.\n");
     Token value;
-    if (!tokenNext(value))
+    if (!tokenNext(value, true))
         return;
     if (value.isClosing())
     {
@@ -313,7 +309,6 @@ void znCGuiFileReader::restSkip(Element& pElement, const Token& pFirst)
             elementRead(token, pElement.mEntity, false);
         else
         {
-            mText.braceSplit(token);
             stepOver(token);
             depth += token.depthChangeGet();
         }

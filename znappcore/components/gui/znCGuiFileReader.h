@@ -51,7 +51,7 @@ private:
         znCVariableTable mSettings;
     };
 
-    bool tokenNext(Token& pToken);
+    bool tokenNext(Token& pToken, bool pValue = false);
     void topLevelRead(const Token& pToken);
     void topLevelElementRead(const Token& pToken);
     bool directiveRead(const Token& pToken);

@@ -55,14 +55,9 @@ bool znCGuiText::tokensVisit(std::string_view pText, std::string_view pWhole, co
     for (std::string_view left = pText; blankSkip(left), !left.empty();)
     {
         const std::size_t begin = offsetGet(left, pText);
-        Token token = tokenCut(left, pWhole);
+        const Token token = tokenCut(left, pWhole, false);
         if (token.mText.empty() && !token.mQuoted)
             left.remove_prefix(1); // an equals sign
-        else if (!token.mQuoted && token.mText.starts_with('{'))
-        {
-            left = pText.substr(begin + 1);
-            token.mText = token.mText.substr(0, 1);
-        }
         if (pVisit(token, begin, offsetGet(left, pText)))
             return true;
     }
@@ -113,7 +108,7 @@ znCGuiText::Result znCGuiText::textPush(const Text& pText)
     return Result::done;
 }
 
-bool znCGuiText::tokenNext(Token& pToken)
+bool znCGuiText::tokenNext(Token& pToken, bool pValue)
 {
     while (!mTexts.empty())
     {
@@ -123,7 +118,7 @@ bool znCGuiText::tokenNext(Token& pToken)
         {
             placeCount(text);
             mReturn = text.mLeft;
-            pToken = tokenCut(text.mLeft, text.mWhole);
+            pToken = tokenCut(text.mLeft, text.mWhole, pValue);
             pToken.mPlace = text.mPlace;
             return true;
         }
@@ -143,11 +138,17 @@ void znCGuiText::placeCount(Text& pText)
     }
 }
 
-znCGuiText::Token znCGuiText::tokenCut(std::string_view& pLeft, std::string_view pWhole)
+znCGuiText::Token znCGuiText::tokenCut(std::string_view& pLeft, std::string_view pWhole, bool pValue)
 {
     Token token;
     token.mIndent = indentGet(pWhole, offsetGet(pLeft, pWhole));
     token.mFirstOfLine = token.mIndent >= 0;
+    if (!pValue && pLeft.starts_with('{'))
+    {
+        token.mText = pLeft.substr(0, 1);
+        pLeft.remove_prefix(1);
+        return token;
+    }
     token.mQuoted = pLeft.starts_with('"');
     if (!token.mQuoted)
     {
@@ -164,14 +165,6 @@ znCGuiText::Token znCGuiText::tokenCut(std::string_view& pLeft, std::string_view
     else if (token.mText.ends_with('\r'))
         token.mText.remove_suffix(1);
     return token;
-}
-
-void znCGuiText::braceSplit(Token& pToken)
-{
-    if (pToken.mQuoted || !pToken.mText.starts_with('{'))
-        return;
-    pToken.mText = pToken.mText.substr(0, 1);
-    mTexts.back().mLeft = mReturn.substr(1);
 }
 
 bool znCGuiText::characterTake(char pCharacter)

@@ -6,7 +6,8 @@
 // can make the row endless.
 //
 // Tokens are those of znStr::chunk, but a quoted token ends with its line at the latest: a forgotten quote then costs
-// one value and not the next one too. A token also ends with the text that it stands in.
+// one value and not the next one too. A token also ends with the text that it stands in, and an opening brace needs no
+// blank behind it.
 
 #include "zncore/znTypes.h"
 
@@ -39,8 +40,8 @@ public:
         bool mFirstOfLine = false;
         s32 mIndent = 0; // blanks before it if it is the first of its line; a tab counts as four
 
-        // A brace with something before or behind it still opens; one that closes must stand alone.
-        bool isOpening() const { return !mQuoted && (mText.starts_with('{') || mText.ends_with('{')); }
+        // A brace with something before it still opens; one that closes must stand alone.
+        bool isOpening() const { return !mQuoted && mText.ends_with('{'); }
         bool isClosing() const { return !mQuoted && mText == "}"; }
         s32 depthChangeGet() const { return isOpening() ? 1 : isClosing() ? -1 : 0; }
     };
@@ -68,12 +69,10 @@ public:
     // Puts a block's body in front of what is left; with pOpen only the part before its last closing brace.
     Result blockInsert(std::string_view pName, const Block& pBlock, bool pOpen);
 
-    // False at the end of everything.
-    bool tokenNext(Token& pToken);
+    // False at the end of everything. With pValue the token may begin with an opening brace.
+    bool tokenNext(Token& pToken, bool pValue = false);
     // Puts the token that has just come back.
     void tokenReturn() { mTexts.back().mLeft = mReturn; }
-    // Puts back what stands behind an opening brace that the token which has just come begins with.
-    void braceSplit(Token& pToken);
     // Steps over pCharacter if it comes next in the innermost text, behind white space and comments.
     bool characterTake(char pCharacter);
     // Drops what is left of the line, but for its end.
@@ -102,7 +101,7 @@ private:
     };
 
     Result textPush(const Text& pText);
-    static Token tokenCut(std::string_view& pLeft, std::string_view pWhole);
+    static Token tokenCut(std::string_view& pLeft, std::string_view pWhole, bool pValue);
     template <class Visit>
     static bool tokensVisit(std::string_view pText, std::string_view pWhole, const Visit& pVisit);
     static void placeCount(Text& pText);
