@@ -1,6 +1,8 @@
 #include "znappcore/znIRenderer.h"
 
+#include "znappcore/animatingSprite/znCAnimationDataManager.h"
 #include "znappcore/impl/platform/znCRenderer.h"
+#include "znappcore/particles/znCParticleDataManager.h"
 #include "znappcore/src/znCFontManager.h"
 #include "znappcore/src/znCRenderJobSprites.h"
 #include "znappcore/src/znCRenderJobText.h"
@@ -60,6 +62,8 @@ znIRenderer::~znIRenderer() = default;
 void znIRenderer::initialise()
 {
     znCFontManager::create();
+    znCAnimationDataManager::create();
+    znCParticleDataManager::create();
     mSprites = arrayMake<znISpriteRenderData*>(mMaxSprites);
     mMaterials = arrayMake<const znCMaterial*>(mMaxMaterialChanges);
     mMaterialSpriteCounts = arrayMake<s32>(mMaxMaterialChanges);
@@ -80,6 +84,8 @@ void znIRenderer::terminate()
     mTexts.reset();
     mFonts.reset();
     mFontTextCounts.reset();
+    znCParticleDataManager::destroy();
+    znCAnimationDataManager::destroy();
     znCFontManager::destroy();
 }
 

@@ -5,9 +5,13 @@
 #include "znappcore/components/gui/elements/znCCheckBoxGroupComponent.h"
 #include "znappcore/components/gui/elements/znCSliderComponent.h"
 #include "znappcore/components/gui/znCModalGuiComponent.h"
+#include "znappcore/components/znCAnimatingSpriteComponent.h"
 #include "znappcore/components/znCDragDropComponent.h"
+#include "znappcore/components/znCParticleEmitterComponent.h"
+#include "znappcore/components/znCScreenFadeComponent.h"
 #include "znappcore/components/znCRevealingTextSpriteComponent.h"
 #include "znappcore/components/znCSpriteComponent.h"
+#include "znappcore/components/znCTextEntryComponent.h"
 #include "znappcore/components/znCTextSpriteComponent.h"
 #include "znappcore/znIComponent.h"
 #include "znappcore/znIMessageListener.h"
@@ -45,7 +49,10 @@ void znCComponentFactory::destroy()
 
 void znCComponentFactory::componentsRegister()
 {
+    componentRegister<znCAnimatingSpriteComponent>();
     componentRegister<znCDragDropComponent>();
+    componentRegister<znCParticleEmitterComponent>();
+    componentRegister<znCScreenFadeComponent>();
     componentRegister<znCSpriteComponent>();
     componentRegister<znCTextSpriteComponent>();
     componentRegister<znCRevealingTextSpriteComponent>();
@@ -54,6 +61,7 @@ void znCComponentFactory::componentsRegister()
     componentRegister<znCCheckBoxGroupComponent>();
     componentRegister<znCModalGuiComponent>();
     componentRegister<znCSliderComponent>();
+    componentRegister<znCTextEntryComponent>();
 }
 
 void znCComponentFactory::componentRegister(const znCUniqueId& pType, Creator pCreator)

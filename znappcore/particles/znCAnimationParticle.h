@@ -1,0 +1,24 @@
+#ifndef ZNAPPCORE_PARTICLES_ZNCANIMATIONPARTICLE_H
+#define ZNAPPCORE_PARTICLES_ZNCANIMATIONPARTICLE_H
+
+#include "znappcore/animatingSprite/znCAnimatingSprite.h"
+#include "znappcore/particles/znIParticle.h"
+
+// A particle that plays an animation.
+class znCAnimationParticle final : public znIParticle
+{
+public:
+    explicit znCAnimationParticle(const znCParticleData& pData);
+
+protected:
+    // A graph is logged ("Colours on animation particles are not supported currently.\n"), once a particle.
+    void colourGraphUpdate() override;
+    void matrixApply(const znAffineMtx2d& pMatrix) override { mAnimation->matrixApply(pMatrix); }
+    void updateDo(s32 pDeltaMs) override { mAnimation->update(pDeltaMs); }
+    void renderDo() override { mAnimation->render(); }
+
+private:
+    std::unique_ptr<znCAnimatingSprite> mAnimation;
+};
+
+#endif
