@@ -6,7 +6,7 @@
 
 namespace
 {
-constexpr s32 TAG_LIMIT = 262144;
+constexpr std::size_t TAG_LIMIT = 262144;
 constexpr s32 ATTRIBUTE_LIMIT = 256; // of one element: the time to tell its names apart grows with their square
 constexpr s32 DEPTH_LIMIT = 512;
 
@@ -108,10 +108,12 @@ bool znXmlParser::preParse(const znCResourceName& pName)
         mFault = {znIXmlParser::MISSING_CLOSE_COMMENT, mReader.brokenOffsetGet()};
         return false;
     }
-    s32 tags = 0;
-    for (znXmlTagMarker marker; tags < TAG_LIMIT && mReader.tokenRead(marker);)
-        ++tags;
-    mPools.create(tags);
+    std::vector<znXmlTagMarker>& markers = mPools.markersGet();
+    markers.clear();
+    for (znXmlTagMarker marker; markers.size() <= TAG_LIMIT && mReader.tokenRead(marker);)
+        markers.push_back(marker);
+    mFault = mReader.brokenOffsetGet() < 0 ? mFault : Fault{znIXmlParser::INVALID_TAG, mReader.brokenOffsetGet()};
+    mPools.create(static_cast<s32>(std::min(markers.size(), TAG_LIMIT)));
     const s32 size = mReader.sizeGet();
     mPools.restart(mReader.bufferRelease());
     mReader.bufferUse(mPools.textGet(), size);
@@ -131,32 +133,26 @@ s32 znXmlParser::parseDo(const znCResourceName& pName)
     return tagsList() ? treeBuild() : znIXmlParser::TAG_POOL_EXHAUSTED;
 }
 
+// The markers behind the declaration are the tag table.
 bool znXmlParser::tagsList()
 {
     const std::string_view text(mReader.textGet(), static_cast<std::size_t>(mReader.sizeGet()));
     const std::string_view::size_type declaration = text.find(DECLARATION_BEGIN);
     const std::string_view::size_type end =
         declaration == std::string_view::npos ? declaration : text.find(DECLARATION_END, declaration);
-    mReader.positionSet(end == std::string_view::npos ? 0 : static_cast<s32>(end + DECLARATION_END.size()));
-    mTagCount = 0;
-    for (znXmlTagMarker marker; mReader.tokenRead(marker); ++mTagCount)
-    {
-        znXmlTagMarker* place = mPools.markerTake();
-        ZN_ASSERT(place != nullptr, "Error: Ran out of tag markers, allocate more");
-        if (place == nullptr)
-        {
-            faultSet(znIXmlParser::TAG_POOL_EXHAUSTED, znIXmlParser::TAG_POOL_EXHAUSTED,
-                     text.substr(static_cast<std::size_t>(marker.mOffset)));
-            return false;
-        }
-        *place = marker;
-        mTags = mTagCount == 0 ? place : mTags;
-    }
-    if (mReader.brokenOffsetGet() >= 0)
-        mFault = {znIXmlParser::INVALID_TAG, mReader.brokenOffsetGet()};
+    const s32 start = end == std::string_view::npos ? 0 : static_cast<s32>(end + DECLARATION_END.size());
+    const std::vector<znXmlTagMarker>& markers = mPools.markersGet();
+    const auto first = std::find_if(markers.begin(), markers.end(),
+                                    [start](const znXmlTagMarker& pMarker) { return pMarker.mOffset >= start; });
+    mTags = markers.data() + (first - markers.begin());
+    mTagCount = static_cast<s32>(markers.end() - first);
+    const bool room = mTagCount < mPools.sizeGet();
+    ZN_ASSERT(room, "Error: Ran out of tag markers, allocate more");
+    if (!room)
+        faultSet(znIXmlParser::TAG_POOL_EXHAUSTED, znIXmlParser::TAG_POOL_EXHAUSTED, tokenGet(mPools.sizeGet() - 1));
     else if (mTagCount == 0)
-        mFault = {znIXmlParser::NO_TAGS, -1};
-    return true;
+        faultSet(znIXmlParser::NO_TAGS, znIXmlParser::NO_TAGS, {});
+    return room;
 }
 
 s32 znXmlParser::treeBuild()

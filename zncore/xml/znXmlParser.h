@@ -1,8 +1,8 @@
 #ifndef ZNCORE_XML_ZNXMLPARSER_H
 #define ZNCORE_XML_ZNXMLPARSER_H
 
-// Builds the tree of a file in the pools: a first pass counts the tags, which sizes the pools; a second lists them; a
-// third makes nodes and attributes of them.
+// Builds the tree of a file in the pools: a first pass over the text lists its tags, which sizes the pools; a second
+// makes nodes and attributes of them.
 
 #include "zncore/xml/znCXmlFileReader.h"
 #include "zncore/xml/znXmlPools.h"

@@ -10,6 +10,7 @@
 #include "zncore/xml/znXmlTagMarker.h"
 #include <memory>
 #include <string>
+#include <vector>
 
 class znXmlPools
 {
@@ -32,19 +33,35 @@ public:
     char* textGet() { return mText.data(); }
 
     // Cleared; null when all but the last are handed out.
-    znXmlNode* nodeTake();
-    znXmlAttribute* attributeTake();
-    znXmlTagMarker* markerTake();
+    znXmlNode* nodeTake() { return elementTake(mNodes.get(), mNodesUsed, mSize); }
+    znXmlAttribute* attributeTake()
+    {
+        return elementTake(mAttributes.get(), mAttributesUsed, mSize * ATTRIBUTES_A_TAG);
+    }
+
+    // The markers of the file that is being read, which say how large the pools have to be. A caller sees to it that no
+    // more than N - 1 are used.
+    std::vector<znXmlTagMarker>& markersGet() { return mMarkers; }
 
 private:
+    template <class Element>
+    static Element* elementTake(Element* pPool, s32& pUsed, s32 pSize)
+    {
+        if (pUsed >= pSize - 1)
+            return nullptr;
+        Element* element = pPool + pUsed++;
+        *element = Element();
+        element->mPooled = true;
+        return element;
+    }
+
     s32 mSize = 0;
     s32 mNodesUsed = 0;
     s32 mAttributesUsed = 0;
-    s32 mMarkersUsed = 0;
     u32 mGeneration = 0;
     std::unique_ptr<znXmlNode[]> mNodes;
     std::unique_ptr<znXmlAttribute[]> mAttributes;
-    std::unique_ptr<znXmlTagMarker[]> mMarkers;
+    std::vector<znXmlTagMarker> mMarkers;
     std::string mText;
 };
 
