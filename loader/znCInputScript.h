@@ -29,7 +29,7 @@ struct znCScriptCommand
     bool mPressed = false;
     s32 mX = 0;
     s32 mY = 0;
-    std::string mText;
+    std::string mText{};
 };
 
 // An input script, read as a whole before the run so that a wrong line stops the program at once. A line holds one
