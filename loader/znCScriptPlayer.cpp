@@ -1,5 +1,6 @@
 #include "loader/znCScriptPlayer.h"
 
+#include <algorithm>
 #include <utility>
 
 using Kind = znCScriptCommand::Kind;
@@ -68,13 +69,15 @@ void znCScriptPlayer::inputAdd(const znCScriptCommand& pCommand, znCInputQueue& 
 
 bool znCScriptPlayer::textTake(std::string& pText)
 {
-    size_t at = mNext;
-    while (at < mCommands.size() && mCommands[at].mKind == Kind::WAIT)
-        ++at;
-    if (at == mCommands.size() || mCommands[at].mKind != Kind::TYPE)
+    const auto passedOver = [](const znCScriptCommand& pCommand)
+    {
+        return pCommand.mKind == Kind::WAIT || pCommand.mKind == Kind::UP;
+    };
+    const auto next = mCommands.begin() + static_cast<std::ptrdiff_t>(mNext);
+    const auto command = std::find_if_not(next, mCommands.end(), passedOver);
+    if (command == mCommands.end() || command->mKind != Kind::TYPE)
         return false;
-    pText = mCommands[at].mText;
-    mNext = at + 1;
-    mWaiting = false;
+    pText = command->mText;
+    mCommands.erase(command);
     return true;
 }

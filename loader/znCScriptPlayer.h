@@ -19,8 +19,8 @@ public:
     // What belongs to the frame that starts at pNowMs goes into the queue.
     void frameRun(u64 pNowMs, znCInputQueue& pQueue);
     bool isAtEnd() const { return mNext == mCommands.size(); }
-    // For a text dialog: the text of the next command, waits before it skipped, if that is a "type", which is then
-    // done. False if it is something else.
+    // For a text dialog: the text of the next command, if that is a "type", which is then done. Waits, and the release
+    // of the press that brought the dialog up, are passed over and come afterwards. False if something else is next.
     bool textTake(std::string& pText);
 
 private:

@@ -91,10 +91,20 @@ u32 znCTextureStore::create(s32 pFormat, s32 pWidth, s32 pHeight, const void* pP
         mGl.DeleteTextures(1, &texture.mName);
         return 0;
     }
+    return store(texture);
+}
+
+// The number of the first free place, which the texture takes.
+u32 znCTextureStore::store(const Texture& pTexture)
+{
     const auto free = std::find_if(mTextures.begin() + 1, mTextures.end(),
-                                   [](const Texture& pTexture) { return pTexture.mName == 0; });
-    return static_cast<u32>((free == mTextures.end() ? mTextures.insert(free, texture) : (*free = texture, free)) -
-                            mTextures.begin());
+                                   [](const Texture& pPlace) { return pPlace.mName == 0; });
+    const auto place = static_cast<size_t>(free - mTextures.begin());
+    if (place == mTextures.size())
+        mTextures.push_back(pTexture);
+    else
+        mTextures[place] = pTexture;
+    return static_cast<u32>(place);
 }
 
 bool znCTextureStore::update(u32 pTexture, s32 pX, s32 pY, s32 pWidth, s32 pHeight, const void* pPixels, s32 pPitch)

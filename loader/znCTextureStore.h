@@ -36,6 +36,7 @@ private:
     };
 
     const Texture* find(u32 pTexture) const;
+    u32 store(const Texture& pTexture);
     // The rows one behind the other, in the layout that OpenGL gets; valid until the next call.
     const void* rowsPack(s32 pFormat, s32 pWidth, s32 pHeight, const void* pPixels, s32 pPitch);
 

@@ -22,7 +22,11 @@ int openerSpawn(const std::string& pUrl)
     char* arguments[] = {program.data(), url.data(), nullptr};
     posix_spawnattr_t attributes;
     posix_spawnattr_init(&attributes);
-    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGDEF);
+    sigset_t childSignal;
+    sigemptyset(&childSignal);
+    sigaddset(&childSignal, SIGCHLD); // the opener waits for children of its own
+    posix_spawnattr_setsigdefault(&attributes, &childSignal);
     pid_t child = 0;
     const int error = posix_spawnp(&child, program.c_str(), nullptr, &attributes, arguments, environ);
     posix_spawnattr_destroy(&attributes);
