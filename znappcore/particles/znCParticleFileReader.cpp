@@ -199,8 +199,9 @@ bool znCParticleFileReader::animationRead()
 bool znCParticleFileReader::pathRead(std::string& pPath)
 {
     whiteSkip();
-    // A path ends with its line at the latest, so that a lost ";" doesn't eat the next command.
-    const std::string_view line = mRest.substr(0, mRest.find_first_of(";\r\n"));
+    // A path is no command and ends with its line at the latest: what is lost here must not eat the next command.
+    const bool lost = valueReaderFind(wordPeek()) != nullptr;
+    const std::string_view line = mRest.substr(0, lost ? 0 : mRest.find_first_of(";\r\n"));
     mRest.remove_prefix(line.size());
     znStr path{std::string(line)};
     path.trimRight();
