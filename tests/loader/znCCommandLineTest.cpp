@@ -1,6 +1,5 @@
 #include "loader/znCCommandLine.h"
 #include "loader/znCDisplayModes.h"
-#include "loader/znCUrlOpener.h"
 
 #include <gmock/gmock.h>
 
@@ -147,14 +146,4 @@ TEST(znCDisplayModesTest, ListsFromText)
         EXPECT_EQ(modes.textParse(text), *expected != '\0') << text;
         EXPECT_EQ(modes.textGet(), expected) << text;
     }
-}
-
-TEST(znCUrlOpenerTest, OnlyThreeSchemesAndNoTricks)
-{
-    for (const char* url : {"http://a.example/", "HTTPS://a.example/x?y=1", "mailto:a@b.example"})
-        EXPECT_TRUE(znCUrlOpener::isAllowed(url)) << url;
-    for (const char* url : {"", "http://", "file:///etc/passwd", "javascript:x", " http://a", "http://a b", "-x",
-                            "http://a\n", "ftp://a"})
-        EXPECT_FALSE(znCUrlOpener::isAllowed(url)) << url;
-    EXPECT_FALSE(znCUrlOpener::isAllowed("http://" + std::string(3000, 'a')));
 }

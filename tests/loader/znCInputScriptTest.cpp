@@ -99,8 +99,10 @@ TEST(znCInputScriptTest, ATextDialogTakesTheNextTypeOnly)
     EXPECT_TRUE(player.textTake(text));
     EXPECT_EQ(text, "Anna");
     EXPECT_FALSE(player.textTake(text)); // a tap comes first
-    player.frameRun(10, queue);
-    player.frameRun(20, queue);
+    player.frameRun(500, queue);         // the press
+    EXPECT_FALSE(player.isAtEnd());
     EXPECT_TRUE(player.textTake(text));
+    EXPECT_EQ(text, "Ben");
+    player.frameRun(510, queue); // its release
     EXPECT_TRUE(player.isAtEnd());
 }

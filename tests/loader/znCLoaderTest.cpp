@@ -155,14 +155,15 @@ TEST(znCLoaderTest, SuspensionKeepsAModuleFromQuittingOnlyUntilItIsResumed)
     EXPECT_THAT(inputOf(run), ElementsAre("suspend", "resume", "end"));
 }
 
-TEST(znCLoaderTest, ATextDialogIsAnsweredByTheScriptOrStandardInput)
+TEST(znCLoaderTest, ATextDialogIsAnsweredByTheScript)
 {
     LoaderRun run;
-    ASSERT_EQ(run.run({"--step", "10", "--touch", "--script", run.scriptWrite("tap 1 2\ntype Anna B\n"), "--", "ask"}),
+    ASSERT_EQ(run.run({"--step", "10", "--script", run.scriptWrite("tap 1 2\nwait 20\ntype Anna B\n"), "--", "ask"}),
               0);
-    EXPECT_THAT(run.logGet(), HasSubstr("answer (none)\n")); // the press comes first, and behind it the release
-    ASSERT_EQ(run.run({"--step", "10", "--script", run.scriptWrite("down 1 2\ntype Anna B\nup 1 2"), "--", "ask"}), 0);
     EXPECT_THAT(inputOf(run), ElementsAre("button 0 1 at 1 2", "answer Anna B", "button 0 0 at 1 2", "end"));
+    ASSERT_EQ(run.run({"--step", "10", "--touch", "--script", run.scriptWrite("tap 1 2\nmove 1 3\n"), "--", "ask"}), 0);
+    EXPECT_THAT(run.logGet(), HasSubstr("answer (none)\n"));
+    EXPECT_THAT(run.errorGet(), HasSubstr("asked for a text (Your name), but the script doesn't type one"));
 }
 
 TEST(znCLoaderTest, AddressesAreNotOpenedHeadless)
