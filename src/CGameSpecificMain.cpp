@@ -19,5 +19,5 @@ void CGameSpecificMain::firstGuiLoad()
     if (s3eConfigGetString("commandline", "argv[1]", screen) == S3E_RESULT_SUCCESS)
         nextScreenSet(screen);
     else
-        firstSceneSet();
+        znCHogCoreMain::firstGuiLoad();
 }

@@ -14,7 +14,7 @@ public:
 
 protected:
     // Opens the screen that the program's first argument names, a scene or a GUI file, so that an author sees it at
-    // once; without one the first scene.
+    // once; without one the first pictures.
     void firstGuiLoad() override;
 
 private:

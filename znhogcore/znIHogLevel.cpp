@@ -4,6 +4,7 @@
 #include "znappcore/components/znCTextSpriteComponent.h"
 #include "znappcore/src/znCGuiMessageDispatcher.h"
 #include "znappcore/src/znCLocalisedStrings.h"
+#include "znappcore/src/znCScreenFade.h"
 #include "znappcore/src/znCUserSavedData.h"
 #include "znappcore/znCEmptyMessageData.h"
 #include "znappcore/znIAudioManager.h"
@@ -57,17 +58,17 @@ znIHogLevel* znIHogLevel::levelGet()
 
 void znIHogLevel::messagesRegister()
 {
-    znCGuiMessageDispatcher::instanceGet()->listenerRegister(FADE_OUT_COMPLETE, this);
+    znCGuiMessageDispatcher::instanceGet()->listenerRegister(znCScreenFade::FADE_OUT_COMPLETE, this);
 }
 
 void znIHogLevel::messagesDeregister()
 {
-    znCGuiMessageDispatcher::instanceGet()->listenerDeregister(FADE_OUT_COMPLETE, this);
+    znCGuiMessageDispatcher::instanceGet()->listenerDeregister(znCScreenFade::FADE_OUT_COMPLETE, this);
 }
 
 bool znIHogLevel::messageProcess(const znCUniqueId& pType, void*)
 {
-    if (pType == FADE_OUT_COMPLETE)
+    if (pType == znCScreenFade::FADE_OUT_COMPLETE)
     {
         stateSave();
         destroy();
@@ -191,6 +192,7 @@ void znIHogLevel::levelSkip()
 
 void znIHogLevel::levelQuit()
 {
+    znCScreenFade::instanceGet()->fadeOut(znCHogCoreMain::SCREEN_FADE_MS);
     znCHogCoreMain::instanceGet()->nextScreenSet(znCHogCoreMain::MAIN_MENU_FILE);
 }
 

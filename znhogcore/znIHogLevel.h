@@ -46,9 +46,6 @@ public:
     const std::string& levelNameGet() const { return mLevelName; }
     bool skippedGet() const { return mSkipped; }
 
-    // On the GUI dispatcher: the screen is dark.
-    static constexpr znCUniqueId FADE_OUT_COMPLETE{"FadeOutComplete"};
-
     // Steps of levelLoad().
     void subScenesStore();
     void miniGameHelpSet();

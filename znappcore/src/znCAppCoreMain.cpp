@@ -1,13 +1,18 @@
 #include "znappcore/src/znCAppCoreMain.h"
 
+#include "znappcore/components/gui/znCNotificationsGui.h"
+#include "znappcore/components/gui/znIGuiComponent.h"
 #include "znappcore/src/znCAppSettings.h"
 #include "znappcore/src/znCBrushManager.h"
 #include "znappcore/src/znCComponentFactory.h"
+#include "znappcore/src/znCEntity.h"
 #include "znappcore/src/znCEntityFactory.h"
 #include "znappcore/src/znCGlobalSavedData.h"
 #include "znappcore/src/znCGuiMessageDispatcher.h"
 #include "znappcore/src/znCLocalisedStrings.h"
 #include "znappcore/src/znCProfileManager.h"
+#include "znappcore/src/znCScreenFade.h"
+#include "znappcore/src/znCSoftwareCursor.h"
 #include "znappcore/src/znCUserSavedData.h"
 #include "znappcore/znIAudioManager.h"
 #include "znappcore/znIDisplay.h"
@@ -17,11 +22,13 @@
 #include "znappcore/znIRenderer.h"
 #include "zncore/debug/znIDebug.h"
 #include "zncore/xml/znCXmlParser.h"
+#include "zncore/znCResourceName.h"
 
 namespace
 {
 constexpr s32 FRAME_LONGEST_MS = 200; // a longer step is a hitch, not play time
 constexpr s32 FRAME_HITCH_MS = 16;    // what such a step counts as
+constexpr char FIRST_GUI[] = "gui/splashScreen/splashScreen.txt";
 constexpr s32 SPRITES_MAX = 1024;
 constexpr s32 MATERIAL_CHANGES_MAX = 1024;
 
@@ -66,6 +73,10 @@ void znCAppCoreMain::startUp()
     znIInputManager::create();
     factoriesCreate();
     messageDispatchersCreate();
+    // The display's children in the order of painting: the application, the notifications, the fade, the cursor.
+    notificationsGuiCreate();
+    screenFadeCreate();
+    softwareCursorCreate();
     firstGuiLoad();
 }
 
@@ -134,6 +145,21 @@ void znCAppCoreMain::appDisplayNodeCreate()
     znIDisplay::instanceGet()->childAdd(mAppDisplayNode);
 }
 
+void znCAppCoreMain::notificationsGuiCreate()
+{
+    znCNotificationsGui::create();
+}
+
+void znCAppCoreMain::screenFadeCreate()
+{
+    znCScreenFade::create();
+}
+
+void znCAppCoreMain::softwareCursorCreate()
+{
+    znCSoftwareCursor::create();
+}
+
 void znCAppCoreMain::savedDataCreate()
 {
     znCGlobalSavedData::create();
@@ -147,7 +173,13 @@ void znCAppCoreMain::messageDispatchersDestroy()
 
 void znCAppCoreMain::messageDispatchersCreate() {}
 
-void znCAppCoreMain::firstGuiLoad() {}
+void znCAppCoreMain::firstGuiLoad()
+{
+    // Not modal: the first pictures listen for presses themselves, and nothing lies beneath them.
+    const znCResourceName file(FIRST_GUI, znCResourceName::GAME_DATA);
+    if (znCEntity* gui = znIGuiComponent::guiCreateFromFile(file, nullptr, false))
+        mAppDisplayNode->childAdd(gui);
+}
 
 void znCAppCoreMain::shutDownPrepare() {}
 

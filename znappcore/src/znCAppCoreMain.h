@@ -42,6 +42,9 @@ protected:
     void startUp();
 
     virtual void appDisplayNodeCreate();
+    virtual void notificationsGuiCreate();
+    virtual void screenFadeCreate();
+    virtual void softwareCursorCreate();
     virtual void savedDataCreate();
     virtual void messageDispatchersDestroy();
     virtual void messageDispatchersCreate();

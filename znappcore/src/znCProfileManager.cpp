@@ -2,6 +2,7 @@
 
 #include "znappcore/src/znCGlobalSavedData.h"
 #include "znappcore/src/znCGuiMessageDispatcher.h"
+#include "znappcore/src/znCSoftwareCursor.h"
 #include "znappcore/src/znCUserSavedData.h"
 #include "znappcore/znCEmptyMessageData.h"
 #include "znappcore/znIAudioManager.h"
@@ -188,6 +189,7 @@ void znCProfileManager::settingsApply()
     audio->musicVolumeSet(user().f32Get(znCUserSavedData::MUSIC_VOLUME));
     audio->effectsVolumeSet(user().f32Get(znCUserSavedData::EFFECTS_VOLUME));
     audio->masterVolumeSet(user().boolGet(znCUserSavedData::MUTE_ALL) ? 0.0f : 1.0f);
+    znCSoftwareCursor::enabledSet(user().boolGet(znCUserSavedData::CUSTOM_CURSORS));
     const bool fullScreen = user().boolGet(znCUserSavedData::FULL_SCREEN);
     if (znIDisplay::existsGet() && znIDisplay::instanceGet()->isFullScreenGet() != fullScreen)
         znIDisplay::instanceGet()->screenModeSet(fullScreen);

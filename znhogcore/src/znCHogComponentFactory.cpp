@@ -1,5 +1,8 @@
 #include "znhogcore/src/znCHogComponentFactory.h"
 
+#include "znhogcore/components/gui/znCMainMenuGui.h"
+#include "znhogcore/components/gui/znCNewPlayerGui.h"
+#include "znhogcore/components/gui/znCOptionsGui.h"
 #include "znhogcore/components/znCBonusComponent.h"
 #include "znhogcore/components/znCBonusListComponent.h"
 #include "znhogcore/components/znCBonusSilhouetteComponent.h"
@@ -24,6 +27,9 @@ void znCHogComponentFactory::create()
 void znCHogComponentFactory::componentsRegister()
 {
     znCComponentFactory::componentsRegister();
+    componentRegister<znCMainMenuGui>();
+    componentRegister<znCNewPlayerGui>();
+    componentRegister<znCOptionsGui>();
     componentRegister<znCBonusComponent>();
     componentRegister<znCBonusListComponent>();
     componentRegister<znCBonusSilhouetteComponent>();

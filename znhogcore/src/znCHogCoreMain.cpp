@@ -1,12 +1,16 @@
 #include "znhogcore/src/znCHogCoreMain.h"
 
+#include "znappcore/animatingSprite/znCAnimationDataManager.h"
 #include "znappcore/components/gui/znIGuiComponent.h"
+#include "znappcore/particles/znCParticleDataManager.h"
 #include "znappcore/src/znCAppSettings.h"
 #include "znappcore/src/znCBrushManager.h"
 #include "znappcore/src/znCEntity.h"
+#include "znappcore/src/znCScreenFade.h"
 #include "znappcore/src/znCUserSavedData.h"
 #include "znappcore/znIAudioManager.h"
 #include "zncore/znCResourceName.h"
+#include "znhogcore/components/gui/znCMainMenuGui.h"
 #include "znhogcore/src/znCCollectionEffectFactory.h"
 #include "znhogcore/src/znCHogComponentFactory.h"
 #include "znhogcore/src/znCHogEntityFactory.h"
@@ -15,7 +19,6 @@
 
 namespace
 {
-constexpr char MAIN_MENU_NAME[] = "MainMenuGui";
 constexpr char GUI_FILE_MARK[] = ".txt";
 constexpr std::size_t LEVEL_NAME_SHORT = 3; // no file's name is as short
 } // namespace
@@ -92,7 +95,7 @@ void znCHogCoreMain::mapRuleApply()
 
 void znCHogCoreMain::appUpdate(s32)
 {
-    if (mNextScreen.empty() || appDisplayChildFind(MAIN_MENU_NAME) != nullptr ||
+    if (mNextScreen.empty() || appDisplayChildFind(znCMainMenuGui::NAME) != nullptr ||
         appDisplayChildFind(znIHogLevel::NAME) != nullptr)
         return;
     levelStart();
@@ -101,11 +104,14 @@ void znCHogCoreMain::appUpdate(s32)
 void znCHogCoreMain::levelStart()
 {
     znCBrushManager::instanceGet()->brushesClear();
+    znCParticleDataManager::instanceGet()->levelDataClear();
+    znCAnimationDataManager::instanceGet()->levelDataClear();
     znIAudioManager::instanceGet()->effectsClear();
     if (mNextScreen.size() > LEVEL_NAME_SHORT && mNextScreen.find(GUI_FILE_MARK) != std::string::npos)
         guiScreenOpen();
     else
         znIHogLevel::create(mNextScreen);
+    znCScreenFade::instanceGet()->fadeIn(SCREEN_FADE_MS);
     mNextScreen.clear();
 }
 

@@ -16,9 +16,12 @@ public:
     // Keys of the player's data.
     static constexpr const char* CURRENT_LEVEL_KEY = "CurrLev";  // the screen to continue at
     static constexpr const char* MAP_LEVEL_KEY = "mapLev";       // what the map offers next
+    static constexpr const char* CASUAL_KEY = "Casual";          // bool, true: hints come quickly, and a tutorial helps
+    static constexpr const char* MALE_KEY = "Male";              // bool, false: the player's figure
     static constexpr const char* FIRST_SCENE_KEY = "firstScene"; // of the application's settings
     static constexpr const char* MAP = "map";
     static constexpr const char* MAP_TO = "map->"; // and the level that the map is to offer
+    static constexpr s32 SCREEN_FADE_MS = 500;     // of every change of screen, each way
     static constexpr const char* MAIN_MENU_FILE = "gui/mainMenu/mainMenu.txt";
 
     // As the base's; null without an instance of this class.

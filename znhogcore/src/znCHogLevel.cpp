@@ -2,6 +2,7 @@
 
 #include "znappcore/components/gui/znIGuiComponent.h"
 #include "znappcore/src/znCAppSettings.h"
+#include "znappcore/src/znCScreenFade.h"
 #include "znappcore/znCEmptyMessageData.h"
 #include "zncore/debug/znIDebug.h"
 #include "zncore/znCResourceName.h"
@@ -61,7 +62,7 @@ bool znCHogLevel::messageProcess(const znCUniqueId& pType, void* pData)
             levelNext();
         return false;
     }
-    if (pType == FADE_OUT_COMPLETE && mContinuePending)
+    if (pType == znCScreenFade::FADE_OUT_COMPLETE && mContinuePending)
     {
         levelReset();
         mContinuePending = false;
@@ -124,6 +125,7 @@ void znCHogLevel::shutDownStateFix()
 void znCHogLevel::levelNext()
 {
     znCHogCoreMain::instanceGet()->nextScreenSet(nextLevelGet());
+    znCScreenFade::instanceGet()->fadeOut(znCHogCoreMain::SCREEN_FADE_MS);
 }
 
 // Everybody clears on the first message; on the second all others are clear already.

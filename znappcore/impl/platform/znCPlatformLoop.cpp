@@ -1,6 +1,7 @@
 #include "znappcore/impl/platform/znCPlatformLoop.h"
 
 #include "znappcore/src/znCAppCoreMain.h"
+#include "znappcore/src/znCSoftwareCursor.h"
 #include "znappcore/src/znCUserSavedData.h"
 #include "znappcore/znIAudioManager.h"
 #include "znappcore/znIDisplay.h"
@@ -68,5 +69,7 @@ void znCPlatformLoop::resume()
     mPausedAt = 0;
     znIAudioManager::instanceGet()->resume();
     // The system may have taken the window out of its mode meanwhile.
-    znIDisplay::instanceGet()->screenModeSet(znCUserSavedData::instanceGet()->boolGet("FullScreen"));
+    const znCUserSavedData* user = znCUserSavedData::instanceGet();
+    znIDisplay::instanceGet()->screenModeSet(user->boolGet(znCUserSavedData::FULL_SCREEN));
+    znCSoftwareCursor::enabledSet(user->boolGet(znCUserSavedData::CUSTOM_CURSORS));
 }
