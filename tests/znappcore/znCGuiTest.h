@@ -75,6 +75,14 @@ protected:
         znINode::newNodesParent();
     }
 
+    static void pictureDraw()
+    {
+        znIRenderer::instanceGet()->frameClear();
+        znIRenderer::instanceGet()->frameBegin();
+        znIDisplay::instanceGet()->treeRender();
+        znIRenderer::instanceGet()->frameEnd();
+    }
+
     // A pointer message at a point of the canvas; true if somebody claimed it.
     static bool pointerSend(const znCUniqueId& pType, s32 pX, s32 pY)
     {

@@ -1,15 +1,20 @@
 #include "znappcore/src/znCComponentFactory.h"
 
 #include "znappcore/components/gui/elements/znCButtonComponent.h"
+#include "znappcore/components/gui/elements/znCButtonDelayComponent.h"
 #include "znappcore/components/gui/elements/znCCheckBoxComponent.h"
 #include "znappcore/components/gui/elements/znCCheckBoxGroupComponent.h"
 #include "znappcore/components/gui/elements/znCSliderComponent.h"
+#include "znappcore/components/gui/znCConfirmBoxGui.h"
+#include "znappcore/components/gui/znCMessageBoxGui.h"
 #include "znappcore/components/gui/znCModalGuiComponent.h"
+#include "znappcore/components/gui/znCNotificationsGui.h"
+#include "znappcore/components/gui/znCSplashScreenGui.h"
 #include "znappcore/components/znCAnimatingSpriteComponent.h"
 #include "znappcore/components/znCDragDropComponent.h"
 #include "znappcore/components/znCParticleEmitterComponent.h"
-#include "znappcore/components/znCScreenFadeComponent.h"
 #include "znappcore/components/znCRevealingTextSpriteComponent.h"
+#include "znappcore/components/znCScreenFadeComponent.h"
 #include "znappcore/components/znCSpriteComponent.h"
 #include "znappcore/components/znCTextEntryComponent.h"
 #include "znappcore/components/znCTextSpriteComponent.h"
@@ -56,7 +61,12 @@ void znCComponentFactory::componentsRegister()
     componentRegister<znCSpriteComponent>();
     componentRegister<znCTextSpriteComponent>();
     componentRegister<znCRevealingTextSpriteComponent>();
+    componentRegister<znCConfirmBoxGui>();
+    componentRegister<znCMessageBoxGui>();
+    componentRegister<znCNotificationsGui>();
+    componentRegister<znCSplashScreenGui>();
     componentRegister<znCButtonComponent>();
+    componentRegister<znCButtonDelayComponent>();
     componentRegister<znCCheckBoxComponent>();
     componentRegister<znCCheckBoxGroupComponent>();
     componentRegister<znCModalGuiComponent>();

@@ -1,6 +1,7 @@
 #include "znappcore/components/gui/elements/znCButtonComponent.h"
 
 #include "znappcore/components/gui/znIGuiComponent.h"
+#include "znappcore/components/znCTextSpriteComponent.h"
 #include "znappcore/src/znCEntity.h"
 #include "znappcore/src/znCGuiMessageDispatcher.h"
 #include "znappcore/znIAudioManager.h"
@@ -12,7 +13,6 @@
 namespace
 {
 constexpr const char* CLICK_SOUND = "audio/sfx/click.wav";
-constexpr znCUniqueId LABEL_TYPE{"znCTextSpriteComponent"};
 } // namespace
 
 znCButtonComponent::znCButtonComponent(znCEntity* pEntity) : znIGestureHandlingComponent(pEntity, true, false, false)
@@ -29,7 +29,7 @@ void znCButtonComponent::initialiseFromVariableTableDo(const znCVariableTable& p
     actionSet(pTable.strGet("action"));
     if (pTable.strGet("font").empty())
         return;
-    if (znIComponent* label = mEntity->componentAdd(LABEL_TYPE))
+    if (auto* label = mEntity->componentAdd<znCTextSpriteComponent>())
         label->initialiseFromVariableTable(pTable);
 }
 
