@@ -1,5 +1,6 @@
 #include "tests/play/gameRun.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
@@ -50,16 +51,19 @@ std::string GameRun::scriptWrite(const std::string& pText)
 
 int GameRun::headlessRun(const std::vector<std::string>& pOptions)
 {
-    std::vector<std::string> options = {
-        "--headless", "--step",           "16",      "--seed",           "1000", "--data", PETREL_ROOT "/data",
-        "--user",     (mFolder / "user"), "--shots", (mFolder / "shots")};
+    std::vector<std::string> options = {"--headless",     "--data",  PETREL_ROOT "/data", "--user",
+                                        mFolder / "user", "--shots", mFolder / "shots"};
+    // A recording brings its own clock.
+    if (std::find(pOptions.begin(), pOptions.end(), "--replay") == pOptions.end())
+        options.insert(options.end(), {"--step", "16", "--seed", "1000"});
     options.insert(options.end(), pOptions.begin(), pOptions.end());
     return run(options);
 }
 
 int GameRun::run(const std::vector<std::string>& pOptions)
 {
-    std::string command = quoted(PETREL_BIN "/petrelmail");
+    const char* program = std::getenv("PETREL_PROGRAM");
+    std::string command = quoted(program != nullptr ? program : PETREL_BIN "/petrelmail");
     for (const std::string& option : pOptions)
         command += " " + quoted(option);
     command += " >" + quoted(mFolder / "out.txt") + " 2>" + quoted(mFolder / "err.txt") + " </dev/null";

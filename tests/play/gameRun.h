@@ -6,7 +6,8 @@
 #include <vector>
 
 // Runs of the real program, as a player or an author starts it, each with folders of its own below the temporary
-// folder that are removed at the end of the object's life.
+// folder that are removed at the end of the object's life. The environment's PETREL_PROGRAM names another program than
+// that of this build, so that the same tests try the release.
 class GameRun
 {
 public:
