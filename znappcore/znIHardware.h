@@ -1,7 +1,7 @@
 #ifndef ZNAPPCORE_ZNIHARDWARE_H
 #define ZNAPPCORE_ZNIHARDWARE_H
 
-#include "znappcore/znCUniqueId.h"
+#include "zncore/znTypes.h"
 
 #include <string>
 
@@ -10,10 +10,6 @@
 class znIHardware
 {
 public:
-    // Sent through znIInputManager when the mouse comes into the window and when it leaves it; empty data.
-    static constexpr znCUniqueId ENTER_CLIENT{"enterClient"};
-    static constexpr znCUniqueId LEAVE_CLIENT{"leaveClient"};
-
     // A second call logs "Already created znIHardware.\n" and starts anew.
     static void create();
     // Without an instance both log "Not created.\n"; instanceGet answers null then.
@@ -25,7 +21,7 @@ public:
     virtual void systemCursorVisibleSet(bool pVisible) = 0;
     // Whether there is a window that can go full screen.
     virtual bool isDesktopGet() = 0;
-    // Called once a frame: sends one of the two messages above when the mouse came into the
+    // Called once a frame: sends ENTER_CLIENT or LEAVE_CLIENT through znIInputManager when the mouse came into the
     // window or left it since the last call. It counts as inside at first.
     virtual void clientAreaPoll() = 0;
 

@@ -298,13 +298,13 @@ TEST_F(znIDisplayTest, standsWithoutACanvasSize)
 TEST_F(znIDisplayTest, tellsOnceWhenTheMouseComesAndGoes)
 {
     znIDisplay& display = up(1024, 768);
-    Ear ear(znIInputManager::instanceGet(), {znIHardware::ENTER_CLIENT, znIHardware::LEAVE_CLIENT});
+    Ear ear(znIInputManager::instanceGet(), {znIInputManager::ENTER_CLIENT, znIInputManager::LEAVE_CLIENT});
     for (const bool inside : {true, false, false, true, true})
     {
         mPlatform.mWindow.mInClientArea = inside;
         display.treeUpdate(16);
     }
-    EXPECT_EQ(ear.mHeard, (std::vector<znCUniqueId>{znIHardware::LEAVE_CLIENT, znIHardware::ENTER_CLIENT}));
+    EXPECT_EQ(ear.mHeard, (std::vector<znCUniqueId>{znIInputManager::LEAVE_CLIENT, znIInputManager::ENTER_CLIENT}));
 }
 
 TEST_F(znIDisplayTest, hidesTheCursorByTheMouseOrElseByTheWindow)

@@ -12,8 +12,8 @@
 namespace
 {
 constexpr s32 LISTENER_PRIORITY = 2; // before all others
-constexpr znCUniqueId LISTENED[] = {znIInputManager::POINTER_MOVE, znIHardware::ENTER_CLIENT,
-                                    znIHardware::LEAVE_CLIENT};
+constexpr znCUniqueId LISTENED[] = {znIInputManager::POINTER_MOVE, znIInputManager::ENTER_CLIENT,
+                                    znIInputManager::LEAVE_CLIENT};
 
 znCSoftwareCursor* sInstance = nullptr; // owned by the display's tree
 } // namespace
@@ -114,9 +114,9 @@ bool znCSoftwareCursor::messageProcess(const znCUniqueId& pType, void* pData)
             parentGet()->worldToLocalGet(static_cast<const znCPointerMessage*>(pData)->mPos, position))
             posSet(position);
     }
-    else if (pType == znIHardware::ENTER_CLIENT)
+    else if (pType == znIInputManager::ENTER_CLIENT)
         activeSet(true);
-    else if (pType == znIHardware::LEAVE_CLIENT)
+    else if (pType == znIInputManager::LEAVE_CLIENT)
         activeSet(false);
     return false;
 }

@@ -36,5 +36,6 @@ void znCHardware::clientAreaPoll()
         return;
     mInClient = inClient;
     if (znIInputManager* input = znIInputManager::instanceGet())
-        input->messageSend(inClient ? ENTER_CLIENT : LEAVE_CLIENT, znCEmptyMessageData::sharedGet());
+        input->messageSend(inClient ? znIInputManager::ENTER_CLIENT : znIInputManager::LEAVE_CLIENT,
+                           znCEmptyMessageData::sharedGet());
 }
