@@ -64,8 +64,16 @@ def cycle_cut(sound, seconds):
     return cycle
 
 
-def music(score, name, cycle_beats, font, work, out, decibel=-19.0):
-    """Render a score to a loop without a gap."""
+def encode(wav, path):
+    """By the file's ending. LAME notes how much silence it added, so that players repeat without a gap."""
+    if path.endswith(".mp3"):
+        subprocess.run(["lame", "--quiet", "-V", "2", wav, path], check=True)
+    else:
+        subprocess.run(["oggenc", "-Q", "-s", "1", "-q", "4", wav, "-o", path], check=True)
+
+
+def music(score, name, cycle_beats, font, work, out, decibel=-19.0, file=None):
+    """Render a score to a loop without a gap; its file has the tune's name unless another one is given."""
     score.write(f"{work}/{name}.mid", cycle_beats, 3)
     raw = f"{work}/{name}_raw.wav"
     subprocess.run(["fluidsynth", "-ni", "-q", "-g", "0.5", "-r", str(RATE), "-O", "s16",
@@ -79,5 +87,6 @@ def music(score, name, cycle_beats, font, work, out, decibel=-19.0):
     seconds = score.seconds(cycle_beats)
     loop = loudness_set(cycle_cut(sound, seconds), decibel)
     write(f"{work}/{name}.wav", loop)
-    subprocess.run(["oggenc", "-Q", "-s", "1", "-q", "4", f"{work}/{name}.wav", "-o", f"{out}/{name}.ogg"], check=True)
-    print(f"{name}.ogg: {seconds:.2f} s, {level(loop):.1f} dB RMS")
+    file = file or f"{name}.ogg"
+    encode(f"{work}/{name}.wav", f"{out}/{file}")
+    print(f"{file}: {seconds:.2f} s, {level(loop):.1f} dB RMS")

@@ -89,7 +89,7 @@ def main(font, work, out):
             score.tempo(last, 158)
             score.tempo(last + BAR, 180)
         start += length
-    music(score, "title", start, font, work, out)
+    music(score, "title", start, font, work, out, file="mainmenumusic.mp3")
 
 
 main(*sys.argv[1:4])
