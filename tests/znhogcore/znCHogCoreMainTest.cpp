@@ -43,18 +43,21 @@ TEST_F(znCHogCoreMainTest, followsTheMapRule)
 
 TEST_F(znCHogCoreMainTest, opensAScreenWhenTheOneBeforeHasGone)
 {
+    constexpr s32 FADE_FRAMES = 500 / FRAME_MS + 5;
     sceneSet("quay", "Background.png,0,0\n", "ACT1NextLev = \"shop\",\r\n");
     sceneSet("shop", "Background.png,0,0\n");
     sceneOpen("quay");
     EXPECT_EQ(user().strGet(znCHogCoreMain::CURRENT_LEVEL_KEY), "quay");
+    frame(FADE_FRAMES);
+    mEar.take();
     send(znCHogMessageDispatcher::CONTINUE_GAME);
-    frame(5);
-    EXPECT_EQ(level().levelNameGet(), "quay");
+    frame(FADE_FRAMES - 10);
+    EXPECT_EQ(level().levelNameGet(), "quay"); // the screen isn't dark yet
+    EXPECT_EQ(mEar.take(), "");
     znIHogLevel::create("shop"); // there is never a second one
     EXPECT_EQ(errorsTake(), std::vector<std::string>{"Already created."});
     EXPECT_EQ(level().levelNameGet(), "quay");
-    mEar.take();
-    levelLeave();
+    frame(FADE_FRAMES);
     EXPECT_EQ(mEar.take(), "resetLevel; postResetLevel; levelLoadComp; ");
     EXPECT_EQ(level().levelNameGet(), "shop");
     EXPECT_EQ(user().strGet(znCHogCoreMain::CURRENT_LEVEL_KEY), "shop");

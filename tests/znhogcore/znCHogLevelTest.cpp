@@ -134,7 +134,7 @@ TEST_F(znCHogLevelTest, asksForNoMemoryWhileNothingHappens)
         imageSet("common/" + std::to_string(i) + ".png", 20, 20);
     sceneSet("quay", coords);
     sceneOpen("quay");
-    frame(3);
+    frame(40);                  // the fade is over
     for (s32 i = 0; i < 2; ++i) // the first round may make room
     {
         const std::size_t before = allocationCountGet();

@@ -1,8 +1,6 @@
 #include "tests/znhogcore/znCHogTest.h"
 
 #include "znappcore/src/znCEntity.h"
-#include "znappcore/src/znCGuiMessageDispatcher.h"
-#include "znappcore/src/znCUserSavedData.h"
 #include "znappcore/znCEmptyMessageData.h"
 #include "znhogcore/src/znCHogMessageDispatcher.h"
 
@@ -64,17 +62,12 @@ bool znCHogTestEar::messageProcess(const znCUniqueId& pType, void* pData)
 
 void znCHogTest::SetUp()
 {
-    mPlatform.mFiles.fileSet("appsettings.txt", "appCanvasW = \"800\",\r\nappCanvasH = \"600\",\r\n");
-    mPlatform.mFiles.fileSet("strings.txt", "PCK-lantern = \"the old lantern\",\r\n");
-    mPlatform.configSet("s3e", "FullScreen", "0");
-    znNGraphics::initialise();
     programStart();
 }
 
 void znCHogTest::TearDown()
 {
     programStop();
-    znNGraphics::terminate();
     EXPECT_EQ(errorsTake(), std::vector<std::string>()) << "faults that the test doesn't expect";
     EXPECT_EQ(mPlatform.mDraw.mFaults, std::vector<std::string>());
     EXPECT_TRUE(mPlatform.mDraw.mTextures.empty()) << "textures that nobody freed";
@@ -82,15 +75,15 @@ void znCHogTest::TearDown()
 
 void znCHogTest::programStart()
 {
-    znCHogTestMain::create();
+    mProgram.start();
+    errorsTake(); // of the cursor and the font, which no test here looks at
     mEar.messagesRegister();
 }
 
 void znCHogTest::programStop()
 {
     mEar.messagesDeregister();
-    logRead();
-    znCAppCoreMain::destroy();
+    mProgram.stop();
 }
 
 // Packing a picture of the canvas's size takes longer than most tests, so equal ones are made once.
@@ -140,27 +133,22 @@ void znCHogTest::sceneOpen(const std::string& pName)
 
 void znCHogTest::levelLeave()
 {
-    znCGuiMessageDispatcher::instanceGet()->messageSend(znIHogLevel::FADE_OUT_COMPLETE,
-                                                        znCEmptyMessageData::sharedGet());
-    frame(2); // it is deleted in the first; what follows opens by the second
+    mProgram.screenLeave();
 }
 
 void znCHogTest::levelEnd(bool pForget)
 {
-    const std::string key = znIHogLevel::SAVED_STATE_KEY + level().levelNameGet();
+    const std::string name = level().levelNameGet();
     levelLeave();
     ASSERT_EQ(znIHogLevel::levelGet(), nullptr);
     if (pForget)
-        znCUserSavedData::instanceGet()->strSet(key, "");
+        mProgram.savedStateForget(name);
 }
 
 void znCHogTest::frame(s32 pCount)
 {
     for (s32 i = 0; i < pCount; ++i)
-    {
-        s3ePointerUpdate();
-        znCAppCoreMain::instanceGet()->frameUpdate(FRAME_MS);
-    }
+        mProgram.frame();
 }
 
 void znCHogTest::press(s32 pX, s32 pY)

@@ -1,32 +1,17 @@
 #ifndef TESTS_ZNHOGCORE_ZNCHOGTEST_H
 #define TESTS_ZNHOGCORE_ZNCHOGTEST_H
 
-// Brings up the whole program below the game on the test platform and plays scenes that lie in memory. The canvas is
-// 800 x 600 in a window of that size, so the scene point (x, y) is the pixel (x + 400, y + 300).
+// Plays scenes that lie in memory; see znCHogTestProgram.
 //
 // A test fails on any logged fault that it did not take.
 
-#include "media/znNGraphics.h"
-#include "tests/support/znCTestPlatform.h"
 #include "tests/support/znNTestImages.h"
+#include "tests/znhogcore/znCHogTestProgram.h"
 #include "znhogcore/components/znICollectableComponent.h"
-#include "znhogcore/src/znCHogCoreMain.h"
-#include "znhogcore/znIHogLevel.h"
 
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
-
-class znCHogTestMain : public znCHogCoreMain
-{
-public:
-    static void create()
-    {
-        auto* instance = new znCHogTestMain; // deleted by znCAppCoreMain::destroy()
-        instanceSet(instance);
-        instance->startUp();
-    }
-};
 
 // Hears the game's messages and keeps them as texts.
 class znCHogTestEar : public znIMessageListener
@@ -44,9 +29,9 @@ private:
 class znCHogTest : public testing::Test
 {
 protected:
-    static constexpr s32 CANVAS_WIDTH = 800;
-    static constexpr s32 CANVAS_HEIGHT = 600;
-    static constexpr s32 FRAME_MS = 16;
+    static constexpr s32 CANVAS_WIDTH = znCHogTestProgram::CANVAS_WIDTH;
+    static constexpr s32 CANVAS_HEIGHT = znCHogTestProgram::CANVAS_HEIGHT;
+    static constexpr s32 FRAME_MS = znCHogTestProgram::FRAME_MS;
 
     void SetUp() override;
     void TearDown() override;
@@ -84,7 +69,8 @@ protected:
     // The messages of all lines since the last call that are no assertion's.
     std::vector<std::string> linesTake();
 
-    znCTestPlatform mPlatform;
+    znCHogTestProgram mProgram;
+    znCTestPlatform& mPlatform = mProgram.mPlatform;
     znCHogTestEar mEar;
 
 private:
