@@ -1,5 +1,9 @@
 #include "znhogcore/components/znCHogLevelLoaderComponent.h"
 
+#include "znappcore/components/znCAnimatingSpriteComponent.h"
+#include "znappcore/components/znCParticleEmitterComponent.h"
+#include "znappcore/components/znCAnimatingSpriteComponent.h"
+#include "znappcore/components/znCParticleEmitterComponent.h"
 #include "znappcore/components/znCSpriteComponent.h"
 #include "znappcore/src/znCAppSettings.h"
 #include "znappcore/src/znCBrushManager.h"
@@ -10,6 +14,8 @@
 #include "zncore/znNCoreUtils.h"
 #include "znhogcore/components/znCBonusComponent.h"
 #include "znhogcore/components/znCBonusSilhouetteComponent.h"
+#include "znhogcore/components/znCNameComponent.h"
+#include "znhogcore/components/znCNameComponent.h"
 #include "znhogcore/components/znCSubSceneComponent.h"
 #include "znhogcore/components/znCTappableCollectableComponent.h"
 #include "znhogcore/components/znCTaskComponent.h"
@@ -24,6 +30,8 @@ namespace
 constexpr char COORDS_FILE[] = "coords.txt";
 constexpr char TEXTURE_PAGE[] = "texturePage";
 constexpr char TABLE_EXTENSION[] = ".txt";
+constexpr char PARTICLES_FOLDER[] = "particles/";
+constexpr char PARTICLES_FOLDER[] = "particles/";
 constexpr char COMMON_MARK[] = "CMN-";
 constexpr char COMMON_FOLDER[] = "common/";
 constexpr std::string_view TUTORIAL_MARK = "tutorial-";
@@ -33,6 +41,14 @@ constexpr char POST_COLLECTION_VISIBLE[] = "postCollectionVisible";
 constexpr char POST_COLLECTION_MARKER[] = "postCollectionVisibleMarker";
 constexpr char DIFFERENCE_FOUND_MARKER[] = "diffFoundMarker";
 constexpr std::string_view BLANKS = " \t\r";
+
+// An animation that is missing just shows nothing, which helps no author.
+void animationSet(znCAnimatingSpriteComponent& pComponent, const znCResourceName& pFile)
+{
+    if (!znIFile::existsGet(pFile))
+        ZN_LOG("There is no animation %s.\n", pFile.nameGet().c_str());
+    pComponent.xmlLoad(pFile, false);
+}
 
 znCResourceName dataNameGet(const std::string& pFile)
 {
@@ -161,6 +177,7 @@ void znCHogLevelLoaderComponent::load(const std::string&, const std::string& pFo
     entitesAddToSubScenes(entities);
     touchHitSpritesStore(entities);
     postCollectionViewSet(entities);
+    particlesInitialise(entities);
 }
 
 void znCHogLevelLoaderComponent::texturePagesLoad(const std::string& pFolder)
@@ -198,11 +215,15 @@ std::vector<znCEntity*> znCHogLevelLoaderComponent::entitiesCreateFromCoordsFile
 void znCHogLevelLoaderComponent::imagesSet(const std::vector<znCEntity*>& pEntities, const std::string& pFolder)
 {
     for (znCEntity* entity : pEntities)
+    {
         if (auto* sprite = entity->componentGet<znCSpriteComponent>())
         {
             const znCResourceName image = dataNameGet(imagePathGet(entity->nameGet(), pFolder));
             sprite->brushSet(znCBrushManager::instanceGet()->brushGet(image, true));
         }
+        else if (auto* animation = entity->componentGet<znCAnimatingSpriteComponent>())
+            animationSet(*animation, dataNameGet(pFolder + entity->nameGet()));
+    }
 }
 
 void znCHogLevelLoaderComponent::entitesAddToSubScenes(std::vector<znCEntity*>& pEntities)
@@ -241,6 +262,17 @@ void znCHogLevelLoaderComponent::subSceneCompInit(znCEntity* pEntity, s32 pIndex
     if (subScene != nullptr)
         subScene->initialise(pIndex);
     pEntity->activeSet(pIndex == 0);
+}
+
+void znCHogLevelLoaderComponent::particlesStart(const std::vector<znCEntity*>& pEntities)
+{
+    for (znCEntity* entity : pEntities)
+    {
+        auto* emitter = entity->componentGet<znCParticleEmitterComponent>();
+        const znCNameComponent* name = emitter != nullptr ? znCNameComponent::get(entity) : nullptr;
+        if (name != nullptr)
+            emitter->initialise(dataNameGet(PARTICLES_FOLDER + name->keyGet() + TABLE_EXTENSION));
+    }
 }
 
 void znCHogLevelLoaderComponent::touchHitSpritesStore(const std::vector<znCEntity*>& pEntities)

@@ -1,7 +1,9 @@
 #include "znhogcore/components/znCLockComponent.h"
 
+#include "znappcore/components/gui/znCNotificationsGui.h"
 #include "znappcore/components/znCSpriteComponent.h"
 #include "znappcore/src/znCEntity.h"
+#include "znappcore/src/znCLocalisedStrings.h"
 #include "zncore/debug/znIDebug.h"
 #include "znhogcore/components/znCNameComponent.h"
 #include "znhogcore/src/znCHogMessageDispatcher.h"
@@ -11,6 +13,7 @@
 namespace
 {
 constexpr char PREFIX[] = "PRE-";
+constexpr char HINT_PREFIX[] = "HINT-";
 constexpr char KEY_END = '-';
 constexpr char TASK_END = '+';
 } // namespace
@@ -45,7 +48,19 @@ bool znCLockComponent::messageProcess(const znCUniqueId& pType, void* pData)
     return znCTappableCollectableComponent::messageProcess(pType, pData);
 }
 
-void znCLockComponent::collectionProcessTrigger() {}
+void znCLockComponent::collectionProcessTrigger()
+{
+    std::string hint = HINT_PREFIX;
+    for (const Key& key : mKeys)
+        if (!key.mUsed)
+            hint += key.mKey + KEY_END;
+    if (!mTaskName.empty())
+        hint += mTaskName + TASK_END;
+    std::string text;
+    znCNotificationsGui* notifications = znCNotificationsGui::instanceGet();
+    if (notifications != nullptr && znCLocalisedStrings::localisedStringGetIfExists(hint + keyGet(), text))
+        notifications->notificationAdd(text);
+}
 
 void znCLockComponent::collectionComplete()
 {

@@ -22,7 +22,9 @@ public:
     void mySave(std::string& pOut) override; // behind the state one bool a key: used
     void myLoad(std::string& pIn) override;
     void collectionComplete() override;
-    void collectionProcessTrigger() override; // a tap; collects nothing
+    // A tap: collects nothing, but tells the player what is missing, by the localised string that the lock's name
+    // without its used keys and with "HINT-" for "PRE-" names, if there is one.
+    void collectionProcessTrigger() override;
     void resetDo() override;
 
     // Uses the key of pKeyEntity if this lock still needs it and pDragSprite touches the lock; the last one opens it.

@@ -1,15 +1,27 @@
 #include "znhogcore/components/znICollectableComponent.h"
 
+#include "znappcore/components/znCAnimatingSpriteComponent.h"
+#include "znappcore/components/znCParticleEmitterComponent.h"
 #include "znappcore/src/znCEntity.h"
 #include "zncore/debug/znIDebug.h"
+#include "zncore/znCResourceName.h"
+#include "zncore/znIFile.h"
 #include "znhogcore/components/znCBonusComponent.h"
 #include "znhogcore/components/znCBonusListComponent.h"
 #include "znhogcore/components/znCBonusSilhouetteComponent.h"
 #include "znhogcore/components/znCHotComponent.h"
+#include "znhogcore/components/znCNameComponent.h"
 #include "znhogcore/src/znCCollectionEffectFactory.h"
 #include "znhogcore/src/znCHogMessageDispatcher.h"
 
 #include <algorithm>
+
+namespace
+{
+constexpr char POST_PARTICLE_PREFIX[] = "particles/PAR-"; // and the key
+constexpr char POST_PARTICLE_SUFFIX[] = "-post.txt";
+constexpr char MARKER_SUFFIX[] = "PostMarker"; // behind the key
+} // namespace
 
 void znICollectableComponent::messagesRegister()
 {
@@ -44,6 +56,7 @@ bool znICollectableComponent::messageProcess(const znCUniqueId& pType, void* pDa
     else if (pType == znCHogMessageDispatcher::LEVEL_COMPLETE && mState == STATE_COLLECTING)
     {
         collectionComplete();
+        markerStart();
         mState = STATE_COLLECTED;
         mFinishedEarly = true;
     }
@@ -79,11 +92,71 @@ void znICollectableComponent::collectedSet()
 {
     mState = STATE_COLLECTED;
     collectionComplete();
+    markerStart();
 }
 
 void znICollectableComponent::collectionComplete()
 {
     znCHogMessageDispatcher::instanceGet()->messageSend(znCHogMessageDispatcher::COLLECTABLE_ENTITY_COLLECTED, mEntity);
+    postParticleStart();
+}
+
+std::string znICollectableComponent::postParticleFileGet() const
+{
+    return POST_PARTICLE_PREFIX + keyGet() + POST_PARTICLE_SUFFIX;
+}
+
+std::string znICollectableComponent::markerNameGet() const
+{
+    return keyGet() + MARKER_SUFFIX;
+}
+
+std::string znICollectableComponent::keyGet() const
+{
+    const znCNameComponent* name = znCNameComponent::get(mEntity);
+    return name != nullptr ? name->keyGet() : std::string();
+}
+
+void znICollectableComponent::postParticleStart()
+{
+    const std::string file = postParticleFileGet();
+    const znCResourceName resource(file, znCResourceName::GAME_DATA);
+    if (!znIFile::existsGet(resource))
+        return;
+    if (znCEntity* entity = siblingCreate(file))
+        entity->componentAdd<znCParticleEmitterComponent>()->initialise(resource);
+}
+
+void znICollectableComponent::markerStart()
+{
+    if (!mPostCollectionVisible || mMarkerFile.empty())
+        return;
+    if (znCEntity* entity = siblingCreate(markerNameGet()))
+        entity->componentAdd<znCAnimatingSpriteComponent>()->xmlLoad(
+            znCResourceName(mMarkerFile, znCResourceName::GAME_DATA), false);
+}
+
+// A new entity at the entity's place, owned by the tree; null without a parent.
+znCEntity* znICollectableComponent::siblingCreate(const std::string& pName)
+{
+    if (mEntity->parentGet() == nullptr)
+        return nullptr;
+    auto* entity = new znCEntity(pName);
+    entity->posSet(mEntity->posGet());
+    mEntity->parentGet()->childAdd(entity);
+    return entity;
+}
+
+// Taken out of the tree at once, so that a new one of that name can come.
+void znICollectableComponent::siblingDestroy(const std::string& pName)
+{
+    znINode* parent = mEntity->parentGet();
+    znINode* sibling = parent != nullptr ? parent->childFind(pName) : nullptr;
+    if (sibling == nullptr)
+        return;
+    if (sibling->parentGet() != nullptr)
+        sibling->parentGet()->childRemove(sibling);
+    sibling->destroy();
 }
 
 void znICollectableComponent::activate()
@@ -98,6 +171,8 @@ void znICollectableComponent::activateDo() {}
 void znICollectableComponent::reset()
 {
     mEntity->activeSet(true);
+    siblingDestroy(postParticleFileGet());
+    siblingDestroy(markerNameGet());
     mState = STATE_INACTIVE;
     mEffectsPending = 0;
     mFinishedEarly = false;
@@ -129,4 +204,8 @@ void znICollectableComponent::mySave(std::string& pOut)
 void znICollectableComponent::myLoad(std::string& pIn)
 {
     mState = std::clamp<s32>(znINode::s32Load(pIn), STATE_INACTIVE, STATE_COLLECTED);
+    if (mState != STATE_COLLECTED)
+        return;
+    postParticleStart();
+    markerStart();
 }

@@ -34,7 +34,8 @@ public:
     void mySave(std::string& pOut) override; // the state
     void myLoad(std::string& pIn) override;  // what is no state counts as the nearest one
 
-    // The collection has ended: announces it.
+    // The collection has ended: announces it and starts "particles/PAR-" + key + "-post.txt" in its place, if there is
+    // such a file.
     virtual void collectionComplete();
     // Starts the collection: hides the entity, unless it stays on view, and starts its effects. In a state other than
     // active it logs and does so all the same.
@@ -61,7 +62,15 @@ protected:
     bool mPostCollectionVisible = false; // on view when collected
     std::string mMarkerFile;
 
+    std::string keyGet() const; // of the entity's name
+
 private:
+    void postParticleStart();
+    void markerStart();
+    std::string postParticleFileGet() const; // also the name of the entity
+    std::string markerNameGet() const;
+    znCEntity* siblingCreate(const std::string& pName);
+    void siblingDestroy(const std::string& pName);
     bool effectReportProcess(const std::string& pNodeName);
     void reset();
     bool exemptFromResetGet() const;
