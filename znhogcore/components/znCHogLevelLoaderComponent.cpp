@@ -2,8 +2,6 @@
 
 #include "znappcore/components/znCAnimatingSpriteComponent.h"
 #include "znappcore/components/znCParticleEmitterComponent.h"
-#include "znappcore/components/znCAnimatingSpriteComponent.h"
-#include "znappcore/components/znCParticleEmitterComponent.h"
 #include "znappcore/components/znCSpriteComponent.h"
 #include "znappcore/src/znCAppSettings.h"
 #include "znappcore/src/znCBrushManager.h"
@@ -14,7 +12,6 @@
 #include "zncore/znNCoreUtils.h"
 #include "znhogcore/components/znCBonusComponent.h"
 #include "znhogcore/components/znCBonusSilhouetteComponent.h"
-#include "znhogcore/components/znCNameComponent.h"
 #include "znhogcore/components/znCNameComponent.h"
 #include "znhogcore/components/znCSubSceneComponent.h"
 #include "znhogcore/components/znCTappableCollectableComponent.h"
@@ -30,7 +27,6 @@ namespace
 constexpr char COORDS_FILE[] = "coords.txt";
 constexpr char TEXTURE_PAGE[] = "texturePage";
 constexpr char TABLE_EXTENSION[] = ".txt";
-constexpr char PARTICLES_FOLDER[] = "particles/";
 constexpr char PARTICLES_FOLDER[] = "particles/";
 constexpr char COMMON_MARK[] = "CMN-";
 constexpr char COMMON_FOLDER[] = "common/";
@@ -177,7 +173,7 @@ void znCHogLevelLoaderComponent::load(const std::string&, const std::string& pFo
     entitesAddToSubScenes(entities);
     touchHitSpritesStore(entities);
     postCollectionViewSet(entities);
-    particlesInitialise(entities);
+    particlesStart(entities);
 }
 
 void znCHogLevelLoaderComponent::texturePagesLoad(const std::string& pFolder)

@@ -38,9 +38,8 @@ private:
     void texturePagesLoad(const std::string& pFolder);
     void imagesSet(const std::vector<znCEntity*>& pEntities, const std::string& pFolder);
     void touchHitSpritesStore(const std::vector<znCEntity*>& pEntities);
-    void particlesStart(const std::vector<znCEntity*>& pEntities);
     void postCollectionViewSet(const std::vector<znCEntity*>& pEntities);
-    void particlesInitialise(const std::vector<znCEntity*>& pEntities);
+    void particlesStart(const std::vector<znCEntity*>& pEntities);
 };
 
 #endif

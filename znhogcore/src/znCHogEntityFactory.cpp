@@ -1,5 +1,7 @@
 #include "znhogcore/src/znCHogEntityFactory.h"
 
+#include "znappcore/components/znCAnimatingSpriteComponent.h"
+#include "znappcore/components/znCParticleEmitterComponent.h"
 #include "znappcore/components/znCSpriteComponent.h"
 #include "znappcore/src/znCComponentFactory.h"
 #include "znappcore/src/znCEntity.h"
@@ -31,7 +33,7 @@ struct Plan
 
 constexpr znCUniqueId SPRITE = znCSpriteComponent::TYPE;
 constexpr znCUniqueId TAPPABLE = znCTappableCollectableComponent::TYPE;
-constexpr znCUniqueId ANIMATING_SPRITE{"znCAnimatingSpriteComponent"};
+constexpr znCUniqueId ANIMATING_SPRITE = znCAnimatingSpriteComponent::TYPE;
 
 std::vector<Plan> plansGet()
 {
@@ -44,7 +46,7 @@ std::vector<Plan> plansGet()
         {"HDN-", {SPRITE, TAPPABLE, znCHiddenPickableComponent::TYPE}, &typeid(znCHiddenPickableComponent)},
         {"REQ-", {SPRITE, TAPPABLE, znCRequiredPickableComponent::TYPE}, &typeid(znCRequiredPickableComponent)},
         {"ANM-", {ANIMATING_SPRITE}},
-        {"PAR-", {znCUniqueId("znCParticleEmitterComponent")}},
+        {"PAR-", {znCParticleEmitterComponent::TYPE}},
         {"HOT-", {SPRITE, TAPPABLE, znCHotComponent::TYPE}},
         {"SUB", {SPRITE, znCUniqueId("znCSubSceneNavigateComponent")}},
         {"NAV", {SPRITE, znCUniqueId("znCNavigateComponent")}},
