@@ -1,6 +1,8 @@
 #include "znhogcore/components/znCHogLevelLoaderComponent.h"
 
 #include "tests/znhogcore/znCHogTest.h"
+#include "znappcore/components/znCAnimatingSpriteComponent.h"
+#include "znappcore/components/znCParticleEmitterComponent.h"
 #include "znappcore/components/znCSpriteComponent.h"
 #include "znappcore/src/znCEntity.h"
 #include "znhogcore/components/znCSubSceneComponent.h"
@@ -185,5 +187,21 @@ TEST_F(znCHogLevelLoaderComponentTest, findsThePictures)
         EXPECT_EQ(znPoint(sprite->widthGet(), sprite->heightGet()), size) << name;
         EXPECT_TRUE(sprite->brushGet()->hasHitMap()) << name;
     }
+}
+
+TEST_F(znCHogLevelLoaderComponentTest, startsWhatRunsInTheScene)
+{
+    animationSet("scenes/quay/anm-gull");
+    mPlatform.mFiles.fileSet("particles/smoke.txt", "maxParticles = 1 ;\nimageFileName = particles/star.png ;\n");
+    imageSet("particles/star.png", 8, 8);
+    sceneSet("quay", "Background.png,0,0\nANM-gull.xml,1,2\nPAR-smoke,3,4\nANM-none.xml,0,0\n");
+    linesTake();
+    sceneOpen("quay");
+    EXPECT_NE(find("ANM-gull.xml")->componentGet<znCAnimatingSpriteComponent>()->spriteGet()->dataGet(), nullptr);
+    EXPECT_NE(find("PAR-smoke")->componentGet<znCParticleEmitterComponent>()->emitterGet(), nullptr);
+    frame(3);
+    const std::vector<std::string> lines = linesTake();
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), "There is no animation scenes/quay/anm-none.xml."), 1);
+    EXPECT_EQ(errorsTake(), std::vector<std::string>());
 }
 } // namespace

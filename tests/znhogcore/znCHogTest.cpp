@@ -105,6 +105,15 @@ void znCHogTest::imageSet(const std::string& pName, s32 pWidth, s32 pHeight, con
     mPlatform.mFiles.fileSet(pName, file);
 }
 
+void znCHogTest::animationSet(const std::string& pName)
+{
+    imageSet(pName + ".png", 16, 16);
+    mPlatform.mFiles.fileSet(pName + ".xml",
+                             "<sequence name=\"a\"><framelist><frame x=\"0\" y=\"0\" w=\"16\" h=\"16\" regx=\"8\" "
+                             "regy=\"8\"/></framelist><timeline name=\"main\" frametime=\"50\"><key frame=\"1\"/>"
+                             "</timeline></sequence>");
+}
+
 void znCHogTest::sceneSet(const std::string& pName, const std::string& pCoords, const std::string& pTable)
 {
     const std::string folder = "scenes/" + pName + "/";

@@ -41,6 +41,8 @@ protected:
 
     // An image of pWidth x pHeight whose alpha follows pAlpha row by row, over and over: '.' 0, anything else 255.
     void imageSet(const std::string& pName, s32 pWidth, s32 pHeight, const std::string& pAlpha = "#");
+    // An animation pName + ".xml" that stands still.
+    void animationSet(const std::string& pName);
     // Scene folder of that name: the list, and an image for every name in it that has none yet: 800 x 600 for a
     // background, 40 x 40 otherwise.
     void sceneSet(const std::string& pName, const std::string& pCoords, const std::string& pTable = "");

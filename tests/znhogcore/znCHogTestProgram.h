@@ -43,7 +43,9 @@ public:
     znCHogTestProgram()
     {
         mPlatform.mFiles.fileSet("appsettings.txt", SETTINGS);
-        mPlatform.mFiles.fileSet("strings.txt", "PCK-lantern = \"the old lantern\",\r\n");
+        mPlatform.mFiles.fileSet("strings.txt", "PCK-lantern = \"the old lantern\",\r\n"
+                                                "HINT-oil-wick-lamp = \"It needs oil and a wick.\",\r\n"
+                                                "HINT-wick-lit+lamp = \"A wick is missing.\",\r\n");
         mPlatform.mFiles.fileSet("gui/notificationsgui/notificationsgui.txt",
                                  "znCNotificationsGui {\n name = NotificationsGui\n modal = false\n"
                                  " znCSpriteComponent { name = NotificationsGuiBackground }\n"

@@ -1,9 +1,12 @@
 #include "znhogcore/components/znCLockComponent.h"
 
 #include "tests/znhogcore/znCHogTest.h"
+#include "znappcore/components/gui/znCNotificationsGui.h"
 #include "znappcore/components/znCSpriteComponent.h"
+#include "znappcore/components/znCTextSpriteComponent.h"
 #include "znappcore/src/znCEntity.h"
 #include "znappcore/src/znCGuiMessageDispatcher.h"
+#include "znappcore/znIDisplay.h"
 #include "znappcore/znIInputManager.h"
 #include "znhogcore/src/znCHogMessageDispatcher.h"
 
@@ -169,6 +172,22 @@ TEST_F(znCLockComponentTest, showsAnIconUnderThePointer)
     EXPECT_EQ(stateGet("PRE-oil-lamp.png"), ACTIVE);
     drag(-200, 0, 221, 0);
     EXPECT_EQ(stateGet("PRE-oil-lamp.png"), COLLECTING);
+}
+
+TEST_F(znCLockComponentTest, tellsWhatIsMissing)
+{
+    open("PRE-oil-wick-lamp.png,200,0\nPRE-oil-wick-lit+lamp.png,200,200\nINS-oil.png,-200,0\n");
+    auto* text = dynamic_cast<znCEntity*>(znIDisplay::instanceGet()->childFind(znCNotificationsGui::TEXT_ENTITY));
+    tap(200, 200); // there is no such string
+    frame();
+    EXPECT_EQ(text->componentFind<znCTextSpriteComponent>()->textGet(), "");
+    tap(200, 0);
+    frame();
+    EXPECT_EQ(text->componentFind<znCTextSpriteComponent>()->textGet(), "It needs oil and a wick.");
+    drag(-200, 0, 200, 200);
+    tap(200, 200);
+    frame(4000 / FRAME_MS);
+    EXPECT_EQ(text->componentFind<znCTextSpriteComponent>()->textGet(), "A wick is missing.");
 }
 
 TEST_F(znCLockComponentTest, isForcedOnce)

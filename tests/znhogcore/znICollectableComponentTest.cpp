@@ -177,6 +177,37 @@ TEST_F(znICollectableComponentTest, staysOnViewWhereTheLevelSaysSo)
     }
 }
 
+TEST_F(znICollectableComponentTest, leavesAMarkerAndParticlesBehind)
+{
+    animationSet("gui/found");
+    mPlatform.mFiles.fileSet("particles/par-half-post.txt",
+                             "maxParticles = 1 ;\nimageFileName = particles/star.png ;\n");
+    imageSet("particles/star.png", 8, 8);
+    sceneSet("quay", mPlatform.mFiles.fileGet("scenes/quay/coords.txt"),
+             "postCollectionVisible = \"true\",\r\npostCollectionVisibleMarker = \"gui/found.xml\",\r\n");
+    open();
+    const char* left[] = {"halfPostMarker", "particles/PAR-half-post.txt"};
+    activate("PCK-half.png");
+    tap(10, 5);
+    for (const char* name : left)
+        EXPECT_EQ(find(name), nullptr) << name;
+    frame(SHOW_FRAMES);
+    for (const char* name : left)
+    {
+        ASSERT_NE(find(name), nullptr) << name;
+        EXPECT_EQ(find(name)->posGet(), find("PCK-half.png")->posGet());
+        EXPECT_EQ(find(name)->parentGet(), find("SubScene0"));
+    }
+    levelEnd(false);
+    open();
+    for (const char* name : left)
+        EXPECT_NE(find(name), nullptr) << name;
+    send(znCHogMessageDispatcher::REPLAY_LEVEL);
+    for (const char* name : left)
+        EXPECT_EQ(find(name), nullptr) << name;
+    EXPECT_EQ(errorsTake(), std::vector<std::string>());
+}
+
 TEST_F(znICollectableComponentTest, saysWhenItIsTriggeredOutOfTurn)
 {
     open();
