@@ -141,6 +141,48 @@ s3eDraw drawTable()
     return table;
 }
 
+s3eSound soundTable()
+{
+    s3eSound table = {};
+    table.sampleCreate = [](const void* pBytes, u32 pSize)
+    {
+        return sLoader->samplesGet().sampleCreate(pBytes, pSize);
+    };
+    table.sampleFree = [](u32 pSample)
+    {
+        sLoader->samplesGet().sampleFree(pSample);
+    };
+    table.play = [](u32 pSample)
+    {
+        return sLoader->samplesGet().play(pSample);
+    };
+    table.stop = [](u32 pPlay)
+    {
+        sLoader->samplesGet().stop(pPlay);
+    };
+    table.pause = [](u32 pPlay)
+    {
+        sLoader->samplesGet().pauseSet(pPlay, true);
+    };
+    table.resume = [](u32 pPlay)
+    {
+        sLoader->samplesGet().pauseSet(pPlay, false);
+    };
+    table.volumeSet = [](s32 pVolume)
+    {
+        sLoader->samplesGet().volumeSet(pVolume);
+    };
+    table.endCallbackSet = [](s3eCallback pCallback, void* pUserData)
+    {
+        sLoader->samplesGet().endCallbackSet(pCallback, pUserData);
+    };
+    table.update = [](s32 pDeltaMs)
+    {
+        sLoader->samplesGet().update(pDeltaMs);
+    };
+    return table;
+}
+
 template <class Table>
 s3eResult tableCopy(const Table& pFrom, void* pTo, u32 pBytes)
 {
@@ -165,5 +207,7 @@ s3eResult znCExtensions::tableGet(u32 pHash, void* pTable, u32 pBytes)
         return tableCopy(mouseTable(), pTable, pBytes);
     if (pHash == S3E_DRAW_HASH)
         return tableCopy(drawTable(), pTable, pBytes);
+    if (pHash == S3E_SOUND_HASH)
+        return tableCopy(soundTable(), pTable, pBytes);
     return S3E_RESULT_ERROR;
 }

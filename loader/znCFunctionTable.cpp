@@ -111,6 +111,35 @@ void fileRowsAdd(Entries& pEntries)
             { return resultOf(sLoader->filesGet().listNext(pList, pName, pSize)); });
     ROW_ADD(s3eFileListClose, [](s3eFileList* pList) { return resultOf(sLoader->filesGet().listClose(pList)); });
 }
+
+s3eResult audioIntSet(s32 pProperty, s32 pValue)
+{
+    if (pProperty == S3E_AUDIO_VOLUME)
+        sLoader->audioGet().trackVolumeSet(pValue);
+    return resultOf(pProperty == S3E_AUDIO_VOLUME);
+}
+
+s3eResult audioPauseSet(bool pPaused)
+{
+    sLoader->audioGet().trackPauseSet(pPaused);
+    return S3E_RESULT_SUCCESS;
+}
+
+s3eResult audioStop()
+{
+    sLoader->audioGet().trackStop();
+    return S3E_RESULT_SUCCESS;
+}
+
+void audioRowsAdd(Entries& pEntries)
+{
+    ROW_ADD(s3eAudioPlay, [](const char* pName, u32 pRepeatCount)
+            { return resultOf(sLoader->musicGet().play(pName, pRepeatCount)); });
+    ROW_ADD(s3eAudioStop, audioStop);
+    ROW_ADD(s3eAudioPause, [] { return audioPauseSet(true); });
+    ROW_ADD(s3eAudioResume, [] { return audioPauseSet(false); });
+    ROW_ADD(s3eAudioSetInt, audioIntSet);
+}
 } // namespace
 
 const s3eFunctionTable& znCFunctionTable::build(znCLoader& pLoader)
@@ -123,6 +152,7 @@ const s3eFunctionTable& znCFunctionTable::build(znCLoader& pLoader)
     deviceRowsAdd(entries);
     inputRowsAdd(entries);
     fileRowsAdd(entries);
+    audioRowsAdd(entries);
     table = {static_cast<u32>(entries.size()), entries.data()};
     return table;
 }

@@ -1,7 +1,9 @@
 #include "loader/znCLoader.h"
 
 #include "loader/znCFunctionTable.h"
+#include "loader/znCSdlAudioDevice.h"
 #include "loader/znCSdlWindow.h"
+#include "loader/znCSilentAudioDevice.h"
 #include "loader/znCVirtualWindow.h"
 #include "loader/znNReport.h"
 
@@ -43,7 +45,7 @@ s32 znCLoader::run()
 {
     const bool started = recordingRead() && dataFolderFind() && scriptRead() && shotsPrepare() &&
                          mModule.open(mProgramFolder / MODULE, mError) && servicesMake() && windowOpen() &&
-                         recordingStart();
+                         audioOpen() && recordingStart();
     if (!started)
     {
         znNReport::lineWrite("%s", mError.c_str());
@@ -173,6 +175,26 @@ bool znCLoader::windowOpen()
     mScreen = std::make_unique<znCScreen>(mContext->glGet(), *mWindow, mOptions.mHeadless || mScript.takesShots());
     mError = mScreen->errorGet();
     return mError.empty();
+}
+
+bool znCLoader::audioOpen()
+{
+    const std::string* wished = mConfig.valueGet("s3e", "Sound");
+    if (wished != nullptr && *wished != "0" && *wished != "1")
+    {
+        mError = "s3e.Sound is \"" + *wished + "\", not 0 or 1";
+        return false;
+    }
+    // Frames of a virtual clock take no time, so what they would play could not be heard.
+    const bool sounds = wished != nullptr ? *wished == "1" : !mOptions.mHeadless && !mClock->isVirtual();
+    std::string error;
+    if (sounds && (mAudio = znCSdlAudioDevice::open(error)) == nullptr)
+        znNReport::lineWrite("there is no sound: %s", error.c_str());
+    if (mAudio == nullptr)
+        mAudio = std::make_unique<znCSilentAudioDevice>();
+    mMusic.emplace(*mFiles, *mAudio);
+    mSamples.emplace(*mAudio);
+    return true;
 }
 
 bool znCLoader::recordingStart()

@@ -10,10 +10,12 @@
 #include "loader/znCInputQueue.h"
 #include "loader/znCKeyboard.h"
 #include "loader/znCModule.h"
+#include "loader/znCMusicPlayer.h"
 #include "loader/znCOptions.h"
 #include "loader/znCPointer.h"
 #include "loader/znCRecorder.h"
 #include "loader/znCReplayer.h"
+#include "loader/znCSamplePlayer.h"
 #include "loader/znCScreen.h"
 #include "loader/znCScriptPlayer.h"
 #include "loader/znCShotWriter.h"
@@ -55,6 +57,9 @@ public:
     znCFiles& filesGet() { return *mFiles; }
     znIWindow& windowGet() { return *mWindow; }
     znCScreen& screenGet() { return *mScreen; }
+    znIAudioDevice& audioGet() { return *mAudio; }
+    znCMusicPlayer& musicGet() { return *mMusic; }
+    znCSamplePlayer& samplesGet() { return *mSamples; }
 
 private:
     // Steps of the start; each answers false with a sentence in mError.
@@ -64,6 +69,7 @@ private:
     bool shotsPrepare();
     bool servicesMake();
     bool windowOpen();
+    bool audioOpen();
     bool recordingStart();
 
     std::filesystem::path userFolderGet() const;
@@ -96,6 +102,9 @@ private:
     std::unique_ptr<znCGlContext> mContext; // outlives the two below
     std::unique_ptr<znIWindow> mWindow;
     std::unique_ptr<znCScreen> mScreen;
+    std::unique_ptr<znIAudioDevice> mAudio; // outlives the two below
+    std::optional<znCMusicPlayer> mMusic;
+    std::optional<znCSamplePlayer> mSamples;
     std::vector<znCInputEvent> mEvents; // of the current frame
     u64 mFrames = 0;                    // boundaries so far
 };

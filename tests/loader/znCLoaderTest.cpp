@@ -1,5 +1,6 @@
 #include "loader/znCModule.h"
 #include "tests/loader/loaderRun.h"
+#include "tests/loader/wavOf.h"
 
 #include <algorithm>
 #include <gmock/gmock.h>
@@ -51,6 +52,7 @@ TEST(znCLoaderTest, WhatCannotStartSaysWhyInOneLine)
         {{"--headless", "--data", data, "--replay", recording}, "", "bad.rec:1: this is no recording"},
         {{"--headless", "--data", data, "--user", data, "--record", "/nonexistent/r"}, "", "cannot write"},
         {{"--headless", "--data", data, "--user", data, "--set", "s3e.DisplayModes=x"}, "", "s3e.DisplayModes"},
+        {{"--headless", "--data", data, "--user", data, "--set", "s3e.Sound=loud"}, "", "s3e.Sound is \"loud\""},
         {{"--headless", "--data", data, "--user", data}, "__EGL_VENDOR_LIBRARY_DIRS=/nonexistent", "libegl1, libgles2"},
         {{"--data", data, "--user", data}, "SDL_VIDEODRIVER=offscreen", "no display to open a window on"},
     };
@@ -173,6 +175,33 @@ TEST(znCLoaderTest, AddressesAreNotOpenedHeadless)
     EXPECT_THAT(run.logGet(), HasSubstr("url 0\nurl 1\n"));
     EXPECT_THAT(run.errorGet(), HasSubstr("would open http://a.example/\n"));
     EXPECT_THAT(run.errorGet(), HasSubstr("refused to open \"file:///etc/passwd\""));
+}
+
+TEST(znCLoaderTest, HeadlessSamplesEndByTheVirtualClock)
+{
+    LoaderRun run;
+    run.folderGet().fileWrite("data/a.wav", wavOf(25 * 441, 44100)); // a quarter of a second
+    run.folderGet().fileWrite("data/b.wav", "no sound");
+    ASSERT_EQ(run.run({"--step", "100", "--frames", "4", "--", "sound=a.wav", "sound=b.wav", "music=none.ogg"}), 0);
+    EXPECT_THAT(run.logGet(), HasSubstr("sound 1\nsound 0\nmusic 1\n"));
+    EXPECT_THAT(run.logGet(), HasSubstr("frame 300\nsound 1 ended\nframe 400\nend\n"));
+    EXPECT_EQ(run.errorGet(), "petrelmail: cannot play none.ogg: there is no such file\n");
+}
+
+TEST(znCLoaderTest, WithoutTheSoundDeviceThatWasExpectedItGoesOn)
+{
+    LoaderRun run;
+    std::filesystem::create_directories(run.folderGet() / "data");
+    run.folderGet().fileWrite("data/a.wav", wavOf(441));
+    const std::string data = run.folderGet() / "data";
+    const std::string user = run.folderGet() / "user";
+    ASSERT_EQ(run.programRun({"--headless", "--data", data, "--user", user, "--step", "10", "--frames", "2", "--set",
+                              "s3e.Sound=1", "--", "sound=a.wav"},
+                             "SDL_AUDIODRIVER=none"),
+              0);
+    EXPECT_THAT(run.logGet(), HasSubstr("sound 1 ended\n"));
+    EXPECT_THAT(run.errorGet(), StartsWith("petrelmail: there is no sound: "));
+    EXPECT_EQ(linesOf(run.errorGet(), ""), 1u);
 }
 
 TEST(znCLoaderTest, TwoRunsAreTheSameToTheLastPixel)

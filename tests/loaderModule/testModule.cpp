@@ -5,11 +5,14 @@
 //   size=WxH     asks for a window of that size
 //   full         goes to full screen, in the last mode of the list
 //   url=URL      opens it at the start
+//   music=NAME   plays the track of that file
+//   sound=NAME   plays the sample of that file
 //   save         saves "ram://save.txt" anew each frame
 
 #include "zncore/impl/platform/s3e.h"
 #include "zncore/impl/platform/s3eExtensions.h"
 
+#include <algorithm>
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
@@ -28,6 +31,7 @@ struct State
 {
     s3eFile* mLog = nullptr;
     s3eDraw mDraw = {};
+    s3eSound mSound = {};
     s32 mX = 0;
     s32 mY = 0;
     bool mAsks = false;
@@ -180,6 +184,22 @@ void fullScreenEnter()
     logWrite("full screen %d", window.fullScreenSet(&modes.back()));
 }
 
+s32 soundEndCb(void* pPlay, void*)
+{
+    logWrite("sound %u ended", *static_cast<u32*>(pPlay));
+    return 0;
+}
+
+void samplePlay(const char* pName)
+{
+    std::vector<char> bytes(static_cast<size_t>(std::max(0, s3eFileGetFileInt(pName, S3E_FILE_SIZE))));
+    s3eFile* file = s3eFileOpen(pName, "rb");
+    s3eFileRead(bytes.data(), static_cast<u32>(bytes.size()), file);
+    s3eFileClose(file);
+    const u32 sample = sState.mSound.sampleCreate(bytes.data(), static_cast<u32>(bytes.size()));
+    logWrite("sound %u", sState.mSound.play(sample));
+}
+
 void argumentApply(const std::string& pArgument)
 {
     s3eWindow window = {};
@@ -188,6 +208,10 @@ void argumentApply(const std::string& pArgument)
     sState.mAsks = sState.mAsks || pArgument == "ask";
     if (pArgument.rfind("url=", 0) == 0)
         logWrite("url %d", s3eOSExec(pArgument.c_str() + 4, 0));
+    if (pArgument.rfind("music=", 0) == 0)
+        logWrite("music %d", s3eAudioPlay(pArgument.c_str() + 6, 0));
+    if (pArgument.rfind("sound=", 0) == 0)
+        samplePlay(pArgument.c_str() + 6);
     if (pArgument == "full")
         fullScreenEnter();
     if (std::sscanf(pArgument.c_str(), "size=%dx%d", &width, &height) == 2 &&
@@ -222,6 +246,10 @@ s32 programRun()
     sState.mLog = s3eFileOpen("ram://log.txt", "wb");
     if (s3eExtGetHash(S3E_DRAW_HASH, &sState.mDraw, sizeof(sState.mDraw)) != S3E_RESULT_SUCCESS)
         return 3;
+    if (s3eExtGetHash(S3E_SOUND_HASH, &sState.mSound, sizeof(sState.mSound)) != S3E_RESULT_SUCCESS)
+        return 4;
+    sState.mSound.endCallbackSet(soundEndCb, nullptr);
+    u64 last = s3eTimerGetMs();
     bool saves = false;
     s32 result = 0;
     callbacksRegister();
@@ -243,6 +271,8 @@ s32 programRun()
         if (s3eDeviceCheckQuitRequest() != 0)
             break;
         logWrite("frame %llu", static_cast<unsigned long long>(now));
+        sState.mSound.update(static_cast<s32>(now - last));
+        last = now;
         if (saves)
             stateSave(now);
         frameDraw(now);
