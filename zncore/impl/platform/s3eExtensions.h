@@ -115,7 +115,8 @@ struct s3eSound
     void (*volumeSet)(s32 pVolume); // of all samples, 0 to S3E_SOUND_MAX_VOLUME
     // pSystemData of the callback points to the u32 number of the play that ended; null: nobody is told
     void (*endCallbackSet)(s3eCallback pCallback, void* pUserData);
-    // Reports the ends that came before this call; a play that begins within waits for the next. Without a sound device
+    // Reports the ends that came before this call; a play that begins within waits for the next. An end may be told
+    // some milliseconds early: a play of the same sample from within then joins without a gap. Without a sound device
     // time passes here alone.
     void (*update)(s32 pDeltaMs);
 };
