@@ -23,7 +23,7 @@ public:
 private:
     znCCollectionEffectFactory() = default;
 
-    s32 visualEffectCreate(const znCEntity& pEntity);
+    s32 visualEffectCreate(znCEntity& pEntity);
 };
 
 #endif

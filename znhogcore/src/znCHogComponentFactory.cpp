@@ -3,6 +3,7 @@
 #include "znhogcore/components/gui/znCMainMenuGui.h"
 #include "znhogcore/components/gui/znCNewPlayerGui.h"
 #include "znhogcore/components/gui/znCOptionsGui.h"
+#include "znhogcore/components/znCAnimCollectionEffectComponent.h"
 #include "znhogcore/components/znCBonusComponent.h"
 #include "znhogcore/components/znCBonusListComponent.h"
 #include "znhogcore/components/znCBonusSilhouetteComponent.h"
@@ -13,6 +14,7 @@
 #include "znhogcore/components/znCHotComponent.h"
 #include "znhogcore/components/znCLockComponent.h"
 #include "znhogcore/components/znCNameComponent.h"
+#include "znhogcore/components/znCParticleCollectionEffectComponent.h"
 #include "znhogcore/components/znCRandomPickableComponent.h"
 #include "znhogcore/components/znCRequiredPickableComponent.h"
 #include "znhogcore/components/znCSubSceneComponent.h"
@@ -30,6 +32,7 @@ void znCHogComponentFactory::componentsRegister()
     componentRegister<znCMainMenuGui>();
     componentRegister<znCNewPlayerGui>();
     componentRegister<znCOptionsGui>();
+    componentRegister<znCAnimCollectionEffectComponent>();
     componentRegister<znCBonusComponent>();
     componentRegister<znCBonusListComponent>();
     componentRegister<znCBonusSilhouetteComponent>();
@@ -39,6 +42,7 @@ void znCHogComponentFactory::componentsRegister()
     componentRegister<znCHogLevelLoaderComponent>();
     componentRegister<znCHotComponent>();
     componentRegister<znCLockComponent>();
+    componentRegister<znCParticleCollectionEffectComponent>();
     componentRegister<znCNameComponent>();
     componentRegister<znCRandomPickableComponent>();
     componentRegister<znCRequiredPickableComponent>();

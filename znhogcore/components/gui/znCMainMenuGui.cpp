@@ -9,6 +9,7 @@
 #include "znappcore/src/znCScreenFade.h"
 #include "znappcore/src/znCUserSavedData.h"
 #include "znappcore/znIAudioManager.h"
+#include "zncore/debug/znIDebug.h"
 #include "zncore/znCResourceName.h"
 #include "zncore/znStr.h"
 #include "znhogcore/components/gui/znCNewPlayerGui.h"
@@ -64,9 +65,13 @@ void znCMainMenuGui::welcomeUpdate(bool pProfile)
 
 void znCMainMenuGui::update(s32)
 {
-    if (profileGet() != znCGlobalSavedData::PROFILE_NONE || entityGet()->childFind(znCNewPlayerGui::NAME) != nullptr)
+    static const std::string sWindow = znCNewPlayerGui::NAME;
+    if (mWindowFaulty || profileGet() != znCGlobalSavedData::PROFILE_NONE || entityGet()->childFind(sWindow) != nullptr)
         return;
     guiCreateFromFile(znCResourceName(znCNewPlayerGui::FILE_NAME, znCResourceName::GAME_DATA), entityGet(), true);
+    mWindowFaulty = entityGet()->childFind(sWindow) == nullptr;
+    ZN_ASSERT(!mWindowFaulty, "Expected to find '%s' after loading %s.\n", znCNewPlayerGui::NAME,
+              znCNewPlayerGui::FILE_NAME);
 }
 
 bool znCMainMenuGui::onButtonClicked(znCButtonComponent* pButton)

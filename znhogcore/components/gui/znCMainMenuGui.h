@@ -30,6 +30,8 @@ public:
 private:
     void statesUpdate();
     void welcomeUpdate(bool pProfile);
+
+    bool mWindowFaulty = false; // what asks for a player didn't come; asking anew each frame would only repeat that
 };
 
 #endif

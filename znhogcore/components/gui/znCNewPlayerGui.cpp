@@ -56,10 +56,13 @@ bool znCNewPlayerGui::onButtonClicked(znCButtonComponent* pButton)
 {
     const std::string& name = pButton->entityGet()->nameGet();
     if (name == OK)
-        okButtonClickedHandle();
+    {
+        if (!mSigned)
+            okButtonClickedHandle();
+    }
     else if (name == CANCEL)
     {
-        if (znCGlobalSavedData::instanceGet()->profileCountGet() > 0)
+        if (!mSigned && znCGlobalSavedData::instanceGet()->profileCountGet() > 0)
             entityGet()->destroy();
     }
     else
@@ -114,6 +117,7 @@ bool znCNewPlayerGui::messageProcess(const znCUniqueId& pType, void* pData)
 {
     if (pType == znCProfileManager::PROFILE_CREATION_COMPLETE)
     {
+        mSigned = true;
         choicesStore();
         znCHogCoreMain::instanceGet()->firstSceneSet();
         znCScreenFade::instanceGet()->fadeOut(znCHogCoreMain::SCREEN_FADE_MS);

@@ -33,6 +33,8 @@ private:
     void messageBoxShow(const char* pKey, const std::string& pName);
     void choicesStore();
     bool checkedGet(const char* pName) const;
+
+    bool mSigned = false; // the player is made: while the screen fades, the window takes no further press
 };
 
 #endif
