@@ -233,16 +233,23 @@ TEST_F(znCEntityTest, RemovalDuringAnEventIsLoggedAndDone)
 TEST_F(znCEntityTest, DyingComponentsFindNoDeadNeighbours)
 {
     bool foundDead = true;
+    std::vector<znCEntity*> found;
+    znCEntity root("root");
+    auto* entity = new znCEntity("entity");
+    root.childAdd(entity);
+    entity->componentAdd<A>();
+    entity->componentAdd<B>();
+    entity->componentAdd<C>();
+    sHooks["B destroyed"] = [&](znIComponent* pComponent)
     {
-        znCEntity entity("entity");
-        entity.componentAdd<A>();
-        entity.componentAdd<B>();
-        sHooks["B destroyed"] = [&](znIComponent* pComponent)
-        {
-            foundDead = pComponent->entityGet()->componentGet(A::TYPE) != nullptr;
-        };
-    }
+        foundDead = pComponent->entityGet()->componentGet(A::TYPE) != nullptr;
+        found = root.entitiesWithComponentsGet({&typeid(A), &typeid(B), &typeid(C)});
+        pComponent->entityGet()->posSet(znPoint(3, 3));
+    };
+    delete entity;
     EXPECT_FALSE(foundDead);
+    EXPECT_EQ(found, std::vector<znCEntity*>{entity}) << "its last component still lives";
+    EXPECT_EQ(journalTake(), (Journal{"A destroyed", "B destroyed", "C position", "C destroyed"}));
 }
 
 TEST_F(znCEntityTest, FindsEntitiesByTheClassOfAComponent)

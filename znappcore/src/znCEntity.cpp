@@ -10,11 +10,14 @@ znCEntity::znCEntity(const std::string& pName) : znINode(pName) {}
 
 znCEntity::~znCEntity()
 {
-    // By place, and each out of the map before its end: a destructor that looks for its neighbours finds living ones.
-    for (std::size_t i = 0; i < mComponentsVector.size(); ++i)
-        componentDelete(std::move(mComponentsVector[i]));
-    for (std::size_t i = 0; i < mPendingComponents.size(); ++i)
-        componentDelete(std::move(mPendingComponents[i].first));
+    // Each is out of the entity before its end: a destructor that looks around finds living neighbours only.
+    while (!mComponentsVector.empty() || !mPendingComponents.empty())
+    {
+        pendingComponentsJoin();
+        std::unique_ptr<znIComponent> component = std::move(mComponentsVector.front());
+        mComponentsVector.erase(mComponentsVector.begin());
+        componentDelete(std::move(component));
+    }
 }
 
 void znCEntity::componentDelete(std::unique_ptr<znIComponent> pComponent)
@@ -46,7 +49,8 @@ void znCEntity::initialiseFromVariableTableDo(const znCVariableTable& pTable)
 void znCEntity::update(s32 pDeltaMs)
 {
     forward([&](znIComponent& pComponent) { pComponent.update(pDeltaMs); });
-    pendingComponentsJoin();
+    if (!mPendingComponents.empty())
+        pendingComponentsJoin();
 }
 
 void znCEntity::render()
