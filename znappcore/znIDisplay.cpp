@@ -61,7 +61,7 @@ void znIDisplay::initialise()
     }
     fullScreenConfigurationTake();
     if (const znCUserSavedData* saved = znCUserSavedData::instanceGet())
-        screenModeSet(saved->boolGet(znCUserSavedData::FULL_SCREEN));
+        screenModeSet(saved->fullScreenGet());
 }
 
 // Whoever starts the program with a wish for window or full screen means it until they change it, so it goes where the
@@ -161,7 +161,7 @@ void znIDisplay::fullScreenToggle()
     znCUserSavedData* saved = znCUserSavedData::instanceGet();
     if (hardware == nullptr || saved == nullptr || !hardware->isDesktopGet())
         return;
-    const bool fullScreen = !saved->boolGet(znCUserSavedData::FULL_SCREEN);
+    const bool fullScreen = !saved->fullScreenGet();
     screenModeSet(fullScreen);
     saved->boolSet(znCUserSavedData::FULL_SCREEN, fullScreen);
     if (znCGuiMessageDispatcher* dispatcher = znCGuiMessageDispatcher::instanceGet())

@@ -141,6 +141,18 @@ TEST_F(znCProfileManagerTest, deletesAnyPlayerAndReusesTheFileName)
     }
 }
 
+TEST_F(znCProfileManagerTest, givesAPlayerWithoutAFileTheSettingsOfANewOne)
+{
+    start();
+    manager().profileCreate("Anna");
+    stop();
+    mPlatform.mFiles.fileRemove("ram://user0.txt");
+    start();
+    EXPECT_EQ(global().profileNameGet(global().currentProfileGet()), "Anna");
+    EXPECT_EQ(mPlatform.mAudioCalls.back(), "set 0 192");
+    EXPECT_TRUE(user().customCursorsGet());
+}
+
 TEST_F(znCProfileManagerTest, goesOnWithBrokenFiles)
 {
     const char* const files[] = {

@@ -167,11 +167,11 @@ void znCProfileManager::globalSave()
 
 void znCProfileManager::settingsCapture()
 {
-    mMusicVolume = user().f32Get(znCUserSavedData::MUSIC_VOLUME);
-    mEffectsVolume = user().f32Get(znCUserSavedData::EFFECTS_VOLUME);
-    mMuteAll = user().boolGet(znCUserSavedData::MUTE_ALL);
-    mCustomCursors = user().boolGet(znCUserSavedData::CUSTOM_CURSORS);
-    mFullScreen = user().boolGet(znCUserSavedData::FULL_SCREEN);
+    mMusicVolume = user().musicVolumeGet();
+    mEffectsVolume = user().effectsVolumeGet();
+    mMuteAll = user().muteAllGet();
+    mCustomCursors = user().customCursorsGet();
+    mFullScreen = user().fullScreenGet();
 }
 
 void znCProfileManager::settingsHandOn()
@@ -186,11 +186,11 @@ void znCProfileManager::settingsHandOn()
 void znCProfileManager::settingsApply()
 {
     znIAudioManager* audio = znIAudioManager::instanceGet();
-    audio->musicVolumeSet(user().f32Get(znCUserSavedData::MUSIC_VOLUME));
-    audio->effectsVolumeSet(user().f32Get(znCUserSavedData::EFFECTS_VOLUME));
-    audio->masterVolumeSet(user().boolGet(znCUserSavedData::MUTE_ALL) ? 0.0f : 1.0f);
-    znCSoftwareCursor::enabledSet(user().boolGet(znCUserSavedData::CUSTOM_CURSORS));
-    const bool fullScreen = user().boolGet(znCUserSavedData::FULL_SCREEN);
+    audio->musicVolumeSet(user().musicVolumeGet());
+    audio->effectsVolumeSet(user().effectsVolumeGet());
+    audio->masterVolumeSet(user().muteAllGet() ? 0.0f : 1.0f);
+    znCSoftwareCursor::enabledSet(user().customCursorsGet());
+    const bool fullScreen = user().fullScreenGet();
     if (znIDisplay::existsGet() && znIDisplay::instanceGet()->isFullScreenGet() != fullScreen)
         znIDisplay::instanceGet()->screenModeSet(fullScreen);
 }

@@ -81,7 +81,7 @@ void znCScreenFade::update(s32 pDeltaMs)
         mComponent->colourSet(mColour);
     const znCUserSavedData* saved = znCUserSavedData::instanceGet();
     znIAudioManager* audio = znIAudioManager::instanceGet();
-    if (audio != nullptr && (saved == nullptr || !saved->boolGet(znCUserSavedData::MUTE_ALL)))
+    if (audio != nullptr && (saved == nullptr || !saved->muteAllGet()))
         audio->masterVolumeSet(COVERED - mFadeAlpha);
 }
 

@@ -6,8 +6,14 @@
 
 namespace
 {
+// The settings of a new player.
+constexpr float VOLUME = 0.75f;
+constexpr bool MUTED = false;
+constexpr bool FULL = true;
+constexpr bool CURSORS = true;
+
 std::unique_ptr<znCUserSavedData> sInstance;
-}
+} // namespace
 
 void znCUserSavedData::create()
 {
@@ -36,11 +42,36 @@ void znCUserSavedData::destroy()
 
 void znCUserSavedData::defaultsSet()
 {
-    f32Set(MUSIC_VOLUME, 0.75f);
-    f32Set(EFFECTS_VOLUME, 0.75f);
-    boolSet(MUTE_ALL, false);
-    boolSet(FULL_SCREEN, true);
-    boolSet(CUSTOM_CURSORS, true);
+    f32Set(MUSIC_VOLUME, VOLUME);
+    f32Set(EFFECTS_VOLUME, VOLUME);
+    boolSet(MUTE_ALL, MUTED);
+    boolSet(FULL_SCREEN, FULL);
+    boolSet(CUSTOM_CURSORS, CURSORS);
     boolSet(CHEAT, false);
     s32Set(CURRENCY, 0);
+}
+
+float znCUserSavedData::musicVolumeGet() const
+{
+    return f32Get(MUSIC_VOLUME, VOLUME);
+}
+
+float znCUserSavedData::effectsVolumeGet() const
+{
+    return f32Get(EFFECTS_VOLUME, VOLUME);
+}
+
+bool znCUserSavedData::muteAllGet() const
+{
+    return boolGet(MUTE_ALL, MUTED);
+}
+
+bool znCUserSavedData::fullScreenGet() const
+{
+    return boolGet(FULL_SCREEN, FULL);
+}
+
+bool znCUserSavedData::customCursorsGet() const
+{
+    return boolGet(CUSTOM_CURSORS, CURSORS);
 }

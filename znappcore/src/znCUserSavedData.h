@@ -23,6 +23,13 @@ public:
     static znCUserSavedData* instanceGet();
     static void destroy();
 
+    // The settings that the framework itself follows. A player whose file lacks one gets what a new player has.
+    float musicVolumeGet() const;
+    float effectsVolumeGet() const;
+    bool muteAllGet() const;
+    bool fullScreenGet() const;
+    bool customCursorsGet() const;
+
     void defaultsSet() override;
     virtual void profileInitialise() {} // a new player begins with this table
     virtual void progressClear() {}     // a new game begins

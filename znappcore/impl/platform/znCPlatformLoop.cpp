@@ -70,6 +70,6 @@ void znCPlatformLoop::resume()
     znIAudioManager::instanceGet()->resume();
     // The system may have taken the window out of its mode meanwhile.
     const znCUserSavedData* user = znCUserSavedData::instanceGet();
-    znIDisplay::instanceGet()->screenModeSet(user->boolGet(znCUserSavedData::FULL_SCREEN));
-    znCSoftwareCursor::enabledSet(user->boolGet(znCUserSavedData::CUSTOM_CURSORS));
+    znIDisplay::instanceGet()->screenModeSet(user->fullScreenGet());
+    znCSoftwareCursor::enabledSet(user->customCursorsGet());
 }

@@ -43,27 +43,27 @@ void znCOptionsGui::sliderPositionsInitialise()
     auto* effects = znNGuiChildren::componentFind<znCSliderComponent>(*this, EFFECTS_SLIDER);
     ZN_ASSERT(effects != nullptr, "Expected to find a SliderComponent named 'OptionsSfxSlider'.\n");
     if (effects != nullptr)
-        effects->valueSet(user().f32Get(znCUserSavedData::EFFECTS_VOLUME));
+        effects->valueSet(user().effectsVolumeGet());
     auto* music = znNGuiChildren::componentFind<znCSliderComponent>(*this, MUSIC_SLIDER);
     ZN_ASSERT(music != nullptr, "Expected to find a SliderComponent named 'OptionsMusicSlider'.\n");
     if (music != nullptr)
-        music->valueSet(user().f32Get(znCUserSavedData::MUSIC_VOLUME));
+        music->valueSet(user().musicVolumeGet());
 }
 
 void znCOptionsGui::checkBoxesUpdate()
 {
-    checkBoxSet(MUTE_ALL, znCUserSavedData::MUTE_ALL);
-    checkBoxSet(FULL_SCREEN, znCUserSavedData::FULL_SCREEN);
-    checkBoxSet(CUSTOM_CURSOR, znCUserSavedData::CUSTOM_CURSORS);
+    checkBoxSet(MUTE_ALL, user().muteAllGet());
+    checkBoxSet(FULL_SCREEN, user().fullScreenGet());
+    checkBoxSet(CUSTOM_CURSOR, user().customCursorsGet());
     znNGuiChildren::activeSet(*this, FULL_SCREEN, znIHardware::instanceGet()->isDesktopGet());
     znNGuiChildren::activeSet(*this, CUSTOM_CURSOR,
                               znIInputManager::instanceGet()->pointerTypeGet() == znIInputManager::POINTER_TYPE_MOUSE);
 }
 
-void znCOptionsGui::checkBoxSet(const char* pName, const char* pKey)
+void znCOptionsGui::checkBoxSet(const char* pName, bool pChecked)
 {
     if (auto* box = znNGuiChildren::componentFind<znCCheckBoxComponent>(*this, pName))
-        box->checkedSet(user().boolGet(pKey));
+        box->checkedSet(pChecked);
 }
 
 bool znCOptionsGui::onButtonClicked(znCButtonComponent* pButton)

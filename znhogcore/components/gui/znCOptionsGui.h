@@ -28,7 +28,7 @@ public:
 private:
     void sliderPositionsInitialise();
     void checkBoxesUpdate();
-    void checkBoxSet(const char* pName, const char* pKey);
+    void checkBoxSet(const char* pName, bool pChecked);
     bool musicSliderMoved(const std::string& pName, float pValue);
     bool effectsSliderReleased(const std::string& pName, float pValue);
     bool checkBoxToggled(const std::string& pName, bool pChecked);
