@@ -11,11 +11,14 @@
 #include "znappcore/components/gui/znCNotificationsGui.h"
 #include "znappcore/components/gui/znCSplashScreenGui.h"
 #include "znappcore/components/znCAnimatingSpriteComponent.h"
+#include "znappcore/components/znCArcLineTrailComponent.h"
 #include "znappcore/components/znCDragDropComponent.h"
+#include "znappcore/components/znCHookedLineTrailComponent.h"
 #include "znappcore/components/znCParticleEmitterComponent.h"
 #include "znappcore/components/znCRevealingTextSpriteComponent.h"
 #include "znappcore/components/znCScreenFadeComponent.h"
 #include "znappcore/components/znCSpriteComponent.h"
+#include "znappcore/components/znCStraightLineTrailComponent.h"
 #include "znappcore/components/znCTextEntryComponent.h"
 #include "znappcore/components/znCTextSpriteComponent.h"
 #include "znappcore/znIComponent.h"
@@ -59,6 +62,9 @@ void znCComponentFactory::componentsRegister()
     componentRegister<znCParticleEmitterComponent>();
     componentRegister<znCScreenFadeComponent>();
     componentRegister<znCSpriteComponent>();
+    componentRegister<znCStraightLineTrailComponent>();
+    componentRegister<znCHookedLineTrailComponent>();
+    componentRegister<znCArcLineTrailComponent>();
     componentRegister<znCTextSpriteComponent>();
     componentRegister<znCRevealingTextSpriteComponent>();
     componentRegister<znCConfirmBoxGui>();
