@@ -204,8 +204,8 @@ TEST_F(znCAnimatingSpriteTest, leavesOutWhatIsFaultyWithALineEach)
         const char* mNamed; // in the one line of the log
         const char* mShown;
     } cases[] = {
-        {"<sequence name='sheet'>", "test.xml has no timeline", "0s"},
-        {"<other/>", "test.xml has no timeline", "0s"},
+        {"<sequence name='sheet'>", "test.xml line 1: no timeline", "0s"},
+        {"<other/>", "test.xml line 1: no timeline", "0s"},
         {"rubbish", "test.xml", "0s"},
         {"<sequence name='sheet'><framelist><f w='4' h='4'/></framelist><timeline name='main' frametime='100'>"
          "<key frame='2'/><key frame='1'/></timeline></sequence>",
@@ -220,8 +220,8 @@ TEST_F(znCAnimatingSpriteTest, leavesOutWhatIsFaultyWithALineEach)
          "<key frame='1'/><key switchtotimeline='none'/></timeline></sequence>",
          "key frame 1", "11s"},
         {"<sequence name='sheet'><framelist><f w='4' h='4'/></framelist><timeline name='main' frametime='100'>"
-         "<key frame='1'/><key wobble='1'/><key/></timeline></sequence>",
-         "\"wobble\"", "1s"},
+         "<key frame='1'/>\n<key wobble='1'/><key frame='1'/></timeline></sequence>",
+         "line 2: a key frame can't start with \"wobble\"", "111s"},
         {"<sequence name='sheet'><framelist><f x='13' w='4' h='4'/></framelist><timeline name='main' frametime='100'>"
          "<key frame='1'/></timeline></sequence>",
          "frame 1", "0s"},
@@ -236,7 +236,25 @@ TEST_F(znCAnimatingSpriteTest, leavesOutWhatIsFaultyWithALineEach)
          "xform", "1s"},
         {"<sequence name='sheet'><framelist><f w='4' h='4'/></framelist><timeline name='main' frametime='100'>"
          "<key frame='1'/><key lua='PlaySound(`)'/></timeline></sequence>",
-         "PlaySound", "1s"},
+         "PlaySound", "11s"},
+        {"<sequence name='sheet'><framelist>\n<f w='-4' h='4'/></framelist>\n<timeline name='main' frametime='100'>"
+         "<key frame='1'/></timeline></sequence>",
+         "line 2: frame 1", "0s"},
+        {"<sequence name='sheet'><framelist><f w='4' h='four'/></framelist><timeline name='main' frametime='100'>"
+         "<key frame='1'/></timeline></sequence>",
+         "h needs a number", "0s"},
+        {"<sequence name='sheet'><framelist><f w='4' h='4' alpha='opaque'/></framelist><timeline name='main' "
+         "frametime='100'><key frame='1'/></timeline></sequence>",
+         "alpha needs a number", "1s"},
+        {"<sequence name='sheet'><framelist><f w='4' h='4' xform='1 0 0 1 x y'/></framelist><timeline name='main' "
+         "frametime='100'><key frame='1'/></timeline></sequence>",
+         "xform", "1s"},
+        {"<!--\n\n--><sequence name='sheet'><framelist><f w='4' h='4'/></framelist><timeline name='main' "
+         "frametime='100'>\n<key frame='1'/>\n<key lua='GotoFrame(start)'/></timeline></sequence>",
+         "test.xml line 5: GotoFrame needs a number", "11s"},
+        {"<sequence name='sheet'><framelist><f w='4' h='4'/></framelist><timeline name='main' frametime='100'>"
+         "<key frame='1'/><key lua='GotoFrame(RandRange(0))'/></timeline></sequence>",
+         "GotoFrame needs a number", "11s"},
     };
     for (const auto& c : cases)
     {

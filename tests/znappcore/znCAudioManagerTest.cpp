@@ -45,10 +45,9 @@ TEST_F(znCAudioManagerTest, volumesAreScaledByTheMasterAndComeBackWithIt)
         const char* mMusic;
         s32 mEffects;
     };
-    const Case cases[] = {{1.0f, 1.0f, "set 0 256", 4096},
-                          {0.5f, 0.5f, "set 0 64", 1024},
-                          {0.0f, 0.5f, "set 0 0", 0},
-                          {1.0f, 0.75f, "set 0 192", 3072}};
+    const Case cases[] = {{1.0f, 1.0f, "set 0 256", 4096}, {0.5f, 0.5f, "set 0 64", 1024},
+                          {0.0f, 0.5f, "set 0 0", 0},      {1.0f, 1e30f, "set 0 256", 4096},
+                          {1.0f, -1.0f, "set 0 0", 0},     {1.0f, 0.75f, "set 0 192", 3072}};
     for (const Case& c : cases)
     {
         mAudio->musicVolumeSet(c.mVolume);

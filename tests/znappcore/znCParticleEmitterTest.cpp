@@ -130,6 +130,8 @@ TEST_F(znCParticleEmitterTest, namesEachFaultAndReadsOn)
          "Expect a value of 'true' or 'false' for linkToEmitter in particle file particles/test.txt."},
         {"colour = fff;",
          "Expected colour values to be 8 characters long, eg 'ff7300c8' in a colour setting, in particle file"},
+        {"colour = ff7300cx;",
+         "Expected colour values to be 8 characters long, eg 'ff7300c8' in a colour setting, in particle file"},
         {"colourGraph = ffffffff, fff, 100;",
          "Expected colour values to be 8 characters long, eg 'ff7300c8' in a colourGraph, in particle file"},
         {"colourGraph = ffffffff 00000000, 100;",
@@ -176,6 +178,7 @@ TEST_F(znCParticleEmitterTest, spawnsAtItsRate)
         {"emitSpeed = 100; particleLifeMs = 250;", 100, "^^^^"},
         {"emitSpeed = -5;", 100, "000"},
         {"emitSpeed = 99999999999999999999999999999999999999;", 100, "^^^"},
+        {"emitSpeed = 99999999999999999999999999999999999999; particleLifeMs = 100;", 100, "^^^"},
         {"", 100, "000"},
     };
     for (const Case& c : cases)

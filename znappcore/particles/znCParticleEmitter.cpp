@@ -10,6 +10,7 @@
 namespace
 {
 constexpr float MS_PER_SECOND = 1000.0f;
+constexpr float STEP_PARTICLES_MAX = 1.0e6f; // far above any pool, far below infinity
 } // namespace
 
 znCParticleEmitter::znCParticleEmitter(const znCParticleDataPtr& pData) : mData(pData)
@@ -55,7 +56,7 @@ void znCParticleEmitter::step(s32 pDeltaMs, float pSeconds)
     mAgeMs = znNCoreUtils::s32Saturate(static_cast<s64>(mAgeMs) + pDeltaMs);
     if (!isEmitting())
         return;
-    mEmitAccumulator += mData->mEmitSpeed * static_cast<float>(pDeltaMs) / MS_PER_SECOND;
+    mEmitAccumulator += std::fmin(mData->mEmitSpeed * static_cast<float>(pDeltaMs) / MS_PER_SECOND, STEP_PARTICLES_MAX);
     const float due = std::trunc(mEmitAccumulator);
     if (!(due > 0.0f))
         return;

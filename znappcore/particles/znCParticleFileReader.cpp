@@ -241,8 +241,9 @@ bool znCParticleFileReader::colourRead()
 bool znCParticleFileReader::colourWordRead(znCColour& pColour, const char* pPlace)
 {
     constexpr std::size_t COLOUR_CHARACTERS = 8;
+    constexpr std::string_view HEXADECIMAL = "0123456789abcdefABCDEF";
     const std::string_view word = wordTake();
-    if (word.size() != COLOUR_CHARACTERS)
+    if (word.size() != COLOUR_CHARACTERS || word.find_first_not_of(HEXADECIMAL) != std::string_view::npos)
         return faultReport(std::string("Expected colour values to be 8 characters long, eg 'ff7300c8' in ") + pPlace);
     pColour = znCColour(std::string(word));
     return true;

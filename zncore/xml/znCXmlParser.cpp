@@ -39,6 +39,16 @@ const char* znIXmlParser::resultTextGet(s32 pResult)
     return known ? TEXTS[pResult] : "unknown result";
 }
 
+s32 znIXmlParser::lineGet(const znCResourceName& pName, const znIXmlNode& pNode)
+{
+    const znXmlNode* node = static_cast<const znCXmlNode&>(pNode).handleGet().elementGet();
+    if (node == nullptr)
+        return 0;
+    const bool root = node->mParent == nullptr; // its name isn't in the file
+    const std::ptrdiff_t offset = root ? 0 : node->mName.mBegin - znXmlPools::instanceGet().textGet();
+    return znCXmlFileReader::lineGet(pName, static_cast<s32>(offset));
+}
+
 void znCXmlParser::poolsCreate(s32 pTags)
 {
     znXmlPools::instanceGet().create(pTags);

@@ -37,6 +37,9 @@ public:
     static boost::shared_ptr<znIXmlParser> create();
     // What a result means, for reports.
     static const char* resultTextGet(s32 pResult);
+    // The line of the file, from 1, in which an element of its last parse begins; 0 for one of an earlier parse. Reads
+    // the file anew: for reports of faults.
+    static s32 lineGet(const znCResourceName& pName, const znIXmlNode& pNode);
 
     // SUCCESS, READ_FAILED (also for a comment without its end), MISMATCHED_END_TAG, INVALID_TAG, TAG_POOL_EXHAUSTED
     // (of a limit, too) or POOLS_NOT_SET_UP (no file could be opened so far). With a result other than SUCCESS the tree

@@ -7,11 +7,18 @@
 #include "zncore/znIFile.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace
 {
 std::unique_ptr<znIAudioManager> sInstance;
+
+// On a scale from 0 to pMax. What is out of range, as in a faulty save, counts as the end of it.
+s32 scaled(float pVolume, s32 pMax)
+{
+    return static_cast<s32>(std::fmin(std::fmax(pVolume, 0.0f), 1.0f) * static_cast<float>(pMax));
 }
+} // namespace
 
 void znIAudioManager::create()
 {
@@ -59,13 +66,13 @@ void znCAudioManager::masterVolumeSet(float pVolume)
 void znCAudioManager::musicVolumeSet(float pVolume)
 {
     mMusicVolume = pVolume;
-    s3eAudioSetInt(S3E_AUDIO_VOLUME, static_cast<s32>(pVolume * mMasterVolume * S3E_AUDIO_MAX_VOLUME));
+    s3eAudioSetInt(S3E_AUDIO_VOLUME, scaled(pVolume * mMasterVolume, S3E_AUDIO_MAX_VOLUME));
 }
 
 void znCAudioManager::effectsVolumeSet(float pVolume)
 {
     mEffectsVolume = pVolume;
-    CIwSoundManager::instanceGet()->masterVolumeSet(static_cast<s32>(pVolume * mMasterVolume * S3E_SOUND_MAX_VOLUME));
+    CIwSoundManager::instanceGet()->masterVolumeSet(scaled(pVolume * mMasterVolume, S3E_SOUND_MAX_VOLUME));
 }
 
 void znCAudioManager::musicPlay(const znCResourceName& pName)
