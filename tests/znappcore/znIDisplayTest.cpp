@@ -273,6 +273,35 @@ TEST_F(znIDisplayTest, togglesFullScreenAndTellsTheGui)
     EXPECT_EQ(ear.mHeard.size(), 2u);
 }
 
+TEST_F(znIDisplayTest, togglesFullScreenByAltWithEnterOnly)
+{
+    struct Case
+    {
+        s32 mHeld;
+        s32 mKey;
+        bool mToggles;
+    };
+    znIDisplay& display = up(1024, 768);
+    for (const Case& c : {Case{S3E_KEY_ALT, S3E_KEY_ENTER, true}, Case{S3E_KEY_F4, S3E_KEY_ENTER, false},
+                          Case{S3E_KEY_ENTER, S3E_KEY_ALT, false}})
+    {
+        const bool before = display.isFullScreenGet();
+        for (const bool down : {true, false}) // the release toggles nothing
+        {
+            mPlatform.mInput.keyQueue(down ? c.mHeld : c.mKey, down);
+            mPlatform.mInput.keyQueue(down ? c.mKey : c.mHeld, down);
+            s3eKeyboardUpdate();
+        }
+        EXPECT_EQ(display.isFullScreenGet() != before, c.mToggles) << c.mHeld << " " << c.mKey;
+    }
+    // With the display gone there is nothing to toggle.
+    znIDisplay::destroy();
+    mPlatform.mInput.keyQueue(S3E_KEY_ALT, true);
+    mPlatform.mInput.keyQueue(S3E_KEY_ENTER, true);
+    s3eKeyboardUpdate();
+    znIDisplay::create();
+}
+
 TEST_F(znIDisplayTest, takesTheWishOfWhoStartedTheProgram)
 {
     mPlatform.configSet("s3e", "FullScreen", "0");

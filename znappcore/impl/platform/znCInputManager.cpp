@@ -107,7 +107,7 @@ s32 znCInputManager::keyEventHandle(void* pSystemData, void*)
 {
     const auto& event = *static_cast<s3eKeyboardEvent*>(pSystemData);
     const bool altDown = (s3eKeyboardGetState(S3E_KEY_ALT) & S3E_KEY_STATE_DOWN) != 0;
-    if (event.mKey == S3E_KEY_ENTER && event.mPressed != 0 && altDown)
+    if (event.mKey == S3E_KEY_ENTER && event.mPressed != 0 && altDown && znIDisplay::existsGet())
         znIDisplay::instanceGet()->fullScreenToggle();
     return 0;
 }
