@@ -25,7 +25,6 @@ namespace
 constexpr char SCENES_FOLDER[] = "scenes/";
 constexpr char TABLE_EXTENSION[] = ".txt";
 // Keys of the level's table.
-constexpr char NEXT_LEVEL_KEY[] = "ACT1NextLev";
 constexpr char MUSIC_KEY[] = "music";
 constexpr char AMBIENT_KEY[] = "ambient";
 constexpr char GUI_KEY[] = "GUI";

@@ -17,6 +17,7 @@ public:
     static constexpr const char* NAME = "HogLevel";
     // Key of the player's data: the stored state of the level whose name stands behind it.
     static constexpr const char* SAVED_STATE_KEY = "LevDat:";
+    static constexpr const char* NEXT_LEVEL_KEY = "ACT1NextLev"; // of the level's table: the screen behind it
 
     // Opens the level of that name from its folder "scenes/" + pName + "/". With a level on the screen it logs
     // "Already created.\n" and nothing more happens.

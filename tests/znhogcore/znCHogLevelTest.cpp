@@ -62,6 +62,17 @@ TEST_F(znCHogLevelTest, goesOnWithoutARoundScore)
     EXPECT_NE(errorsTake(), std::vector<std::string>()); // the file that is missing
 }
 
+TEST_F(znCHogLevelTest, saysThatNoScreenFollows)
+{
+    sceneSet("quay", "Background.png,0,0\n", "music = \"\",\r\n");
+    sceneOpen("quay");
+    linesTake();
+    send(znCHogMessageDispatcher::LEVEL_COMPLETE);
+    EXPECT_EQ(linesTake(),
+              std::vector<std::string>{"No screen follows: the table scenes/quay/quay.txt names none as ACT1NextLev."});
+    EXPECT_EQ(nextGet(), "");
+}
+
 TEST_F(znCHogLevelTest, leavesACleanSceneBehindWhenItIsWon)
 {
     open("");

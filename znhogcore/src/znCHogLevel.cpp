@@ -124,7 +124,11 @@ void znCHogLevel::shutDownStateFix()
 
 void znCHogLevel::levelNext()
 {
-    znCHogCoreMain::instanceGet()->nextScreenSet(nextLevelGet());
+    const std::string next = nextLevelGet();
+    if (next.empty())
+        ZN_LOG("No screen follows: the table %s.txt names none as %s.\n", (mLevelFolder + mLevelName).c_str(),
+               NEXT_LEVEL_KEY);
+    znCHogCoreMain::instanceGet()->nextScreenSet(next);
     znCScreenFade::instanceGet()->fadeOut(znCHogCoreMain::SCREEN_FADE_MS);
 }
 
