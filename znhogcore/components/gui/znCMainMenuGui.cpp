@@ -65,13 +65,13 @@ void znCMainMenuGui::welcomeUpdate(bool pProfile)
 
 void znCMainMenuGui::update(s32)
 {
-    static const std::string sWindow = znCNewPlayerGui::NAME;
-    if (mWindowFaulty || profileGet() != znCGlobalSavedData::PROFILE_NONE || entityGet()->childFind(sWindow) != nullptr)
+    if (mNewPlayerFailed || profileGet() != znCGlobalSavedData::PROFILE_NONE ||
+        entityGet()->childFind(znCNewPlayerGui::NAME) != nullptr)
         return;
     guiCreateFromFile(znCResourceName(znCNewPlayerGui::FILE_NAME, znCResourceName::GAME_DATA), entityGet(), true);
-    mWindowFaulty = entityGet()->childFind(sWindow) == nullptr;
-    ZN_ASSERT(!mWindowFaulty, "Expected to find '%s' after loading %s.\n", znCNewPlayerGui::NAME,
-              znCNewPlayerGui::FILE_NAME);
+    mNewPlayerFailed = entityGet()->childFind(znCNewPlayerGui::NAME) == nullptr;
+    ZN_ASSERT(!mNewPlayerFailed, "Expected %s to hold an entity named %s.\n", znCNewPlayerGui::FILE_NAME,
+              znCNewPlayerGui::NAME);
 }
 
 bool znCMainMenuGui::onButtonClicked(znCButtonComponent* pButton)

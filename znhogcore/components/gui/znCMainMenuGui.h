@@ -31,6 +31,8 @@ private:
     void statesUpdate();
     void welcomeUpdate(bool pProfile);
 
+    bool mNewPlayerFailed = false; // its file is no use; asking again would only fill the screen
+
     bool mWindowFaulty = false; // what asks for a player didn't come; asking anew each frame would only repeat that
 };
 
