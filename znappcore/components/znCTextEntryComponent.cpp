@@ -11,19 +11,34 @@
 #include "zncore/znCResourceName.h"
 #include "zncore/znStr.h"
 
+#include <utility>
+
 namespace
 {
 constexpr s32 BACKSPACE = 8;
 constexpr s32 SPACE = 32;
 constexpr s32 DELETE = 127;
-constexpr s32 SURROGATE_FIRST = 0xD800; // halves of a character are none
-constexpr s32 SURROGATE_LAST = 0xDFFF;
+// Characters that need more than 16 bits come as two halves.
+constexpr s32 HALVES_FIRST = 0xD800;
+constexpr s32 SECOND_HALVES_FIRST = 0xDC00;
+constexpr s32 HALVES_LAST = 0xDFFF;
+constexpr s32 HALF_BITS = 10;
+constexpr s32 WHOLE_FIRST = 0x10000;
 constexpr s32 CODE_MAX = 0x10FFFF;
+
+bool firstHalfGet(s32 pCode)
+{
+    return pCode >= HALVES_FIRST && pCode < SECOND_HALVES_FIRST;
+}
+
+bool secondHalfGet(s32 pCode)
+{
+    return pCode >= SECOND_HALVES_FIRST && pCode <= HALVES_LAST;
+}
 
 bool typeableGet(s32 pCode)
 {
-    return pCode >= SPACE && pCode != DELETE && pCode <= CODE_MAX &&
-           (pCode < SURROGATE_FIRST || pCode > SURROGATE_LAST);
+    return pCode >= SPACE && pCode != DELETE && pCode <= CODE_MAX && (pCode < HALVES_FIRST || pCode > HALVES_LAST);
 }
 } // namespace
 
@@ -89,7 +104,11 @@ bool znCTextEntryComponent::messageProcess(const znCUniqueId& pType, void* pData
 
 void znCTextEntryComponent::characterTake(s32 pCode)
 {
-    if (entryChange(pCode))
+    const s32 firstHalf = std::exchange(mFirstHalf, firstHalfGet(pCode) ? pCode : 0);
+    const bool whole = firstHalf != 0 && secondHalfGet(pCode);
+    const s32 code =
+        whole ? WHOLE_FIRST + ((firstHalf - HALVES_FIRST) << HALF_BITS) + (pCode - SECOND_HALVES_FIRST) : pCode;
+    if (entryChange(code))
         entryShow();
 }
 

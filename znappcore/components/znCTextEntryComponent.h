@@ -37,6 +37,7 @@ private:
     znCEntity* mCaret = nullptr; // a child of the entity, which owns it
     std::string mEntry;
     s32 mMaxStringLength = 0;
+    s32 mFirstHalf = 0; // of a character of which the second half is still to come
 };
 
 #endif
