@@ -28,8 +28,7 @@ TEST(znCStringsFile, SpreadsheetRows)
         {row(cell("a"), cell("")) + row(cell("b"), cell("2")), {{"b", "2"}}},
         {row(cell("a"), cell("TRUE", "Boolean")) + row(cell("b"), cell("2")), {{"b", "2"}}},
         {row(cell("a"), "") + row(cell("b"), cell("2")), {{"b", "2"}}},
-        // A row whose first line is no cell ends the file.
-        {row("<Comment/>", cell("1")) + row(cell("b"), cell("2")), {}},
+        {row(cell("a"), cell("1")) + row("", "") + "</Table>" + row(cell("b"), cell("2")), {{"a", "1"}}},
         // A tag that goes on over the line, and a text that does.
         {"<Row>\n<Cell ss:Type=\"String\"\n ss:Index=\"2\"><B>first\nsecond</B></Cell>\n" + cell("v") + "\n", {}},
         {"<Row>\n" + cell("k") + "\n<Cell ss:Type=\"String\"\n ss:Index=\"2\"><B>text\nmore</B></Cell>\n",
@@ -47,4 +46,16 @@ TEST(znCStringsFile, SpreadsheetRows)
         EXPECT_EQ(strings.entriesGet(), entries) << content;
         EXPECT_EQ(core.mPlatform.logGet(), "");
     }
+}
+
+TEST(znCStringsFile, RowsBehindOneWithoutAFirstCellAreMissed)
+{
+    znCTestCore core;
+    core.mPlatform.mFiles.fileSet("strings.xml",
+                                  row(cell("a"), cell("1")) + row("<Comment/>", cell("1")) + row(cell("b"), cell("2")));
+    znCStringsFile strings;
+    strings.spreadsheetLoad(znCResourceName("strings.xml", znCResourceName::STRINGS_DATA));
+    EXPECT_EQ(strings.entriesGet(), (Entries{{"a", "1"}}));
+    EXPECT_NE(core.mPlatform.logGet().find("strings.xml line 6: The table ends"), std::string::npos)
+        << core.mPlatform.logGet();
 }

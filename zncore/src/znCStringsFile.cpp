@@ -1,4 +1,6 @@
 #include "zncore/src/znCStringsFile.h"
+#include "zncore/debug/znIDebug.h"
+#include "zncore/znCResourceName.h"
 #include "zncore/znNCoreUtils.h"
 #include "zncore/znStr.h"
 
@@ -24,6 +26,18 @@ public:
     {
         while (mNext < mLines.size())
             if (mLines[mNext++].find(pText) != std::string::npos)
+                return true;
+        return false;
+    }
+
+    // From 1, of the line read last.
+    s32 lineNumberGet() const { return static_cast<s32>(mNext); }
+
+    // Whether a cell follows before the table's end.
+    bool cellLeft() const
+    {
+        for (auto i = mNext; i < mLines.size() && mLines[i].find("</Table>") == std::string::npos; ++i)
+            if (mLines[i].find("<Cell") != std::string::npos)
                 return true;
         return false;
     }
@@ -68,6 +82,13 @@ bool cellRead(LineReader& pLines, znStr& pOut)
     pOut = line.tokenCut("<");
     return true;
 }
+// A row without a first cell ends the table. That may be a slip where more rows follow.
+void endReport(const LineReader& pLines, const znCResourceName& pName)
+{
+    if (pLines.cellLeft())
+        ZN_LOG("%s line %d: The table ends at a row without a first cell, and the rows behind it are left out.\n",
+               pName.nameGet().c_str(), pLines.lineNumberGet());
+}
 } // namespace
 
 znCStringsFile::znCStringsFile() : mEllipsisText(znStr(ELLIPSIS)) {}
@@ -77,8 +98,10 @@ void znCStringsFile::spreadsheetLoad(const znCResourceName& pName)
     LineReader lines(pName);
     znStr key;
     znStr value;
-    while (lines.lineWithRead("<Row") && cellRead(lines, key))
+    while (lines.lineWithRead("<Row"))
     {
+        if (!cellRead(lines, key))
+            return endReport(lines, pName);
         cellRead(lines, value);
         value.replaceAll(mEllipsisText, "...");
         if (!value.empty())

@@ -12,7 +12,8 @@ public:
     znCStringsFile();
     ~znCStringsFile() override = default;
 
-    // Adds the rows that have a text. Ends at the first row whose first line is no cell. The number of the ellipsis
+    // Adds the rows that have a text. Ends at the first row whose first line is no cell; if rows with
+    // cells follow, a line in the log says where that was. The number of the ellipsis
     // character, which the spreadsheet program leaves in texts, becomes "...". A missing file logs
     // "File %s does not exist.\n".
     void spreadsheetLoad(const znCResourceName& pName);
