@@ -19,6 +19,12 @@ bool znIMessageDispatcher::messageSend(const znCUniqueId& pType, void* pData)
     return consumed;
 }
 
+bool znIMessageDispatcher::listenerExists(const znCUniqueId& pType) const
+{
+    const auto listeners = mListeners.find(pType);
+    return listeners != mListeners.end() && !listeners->second.empty();
+}
+
 // Goes by place, kept where walksShift() finds it, and looks at the list anew when a listener has changed it.
 bool znIMessageDispatcher::deliver(Walk& pWalk, void* pData, const znCUniqueId& pType)
 {

@@ -9,7 +9,8 @@
 // of positive priority and before those of priority 0, whether it registered for the type or not.
 //
 // During a delivery anything may register, deregister and send. A listener that registers for the type being delivered
-// hears the next one. The dispatcher owns no listener; each must deregister before its end.
+// hears the next one; only one whose place is below a listener of positive priority still to be asked hears this one
+// too. The dispatcher owns no listener; each must deregister before its end.
 
 #include "znappcore/znCUniqueId.h"
 
@@ -29,6 +30,7 @@ public:
     virtual bool messageSend(const znCUniqueId& pType, void* pData);
     virtual ~znIMessageDispatcher();
 
+    bool listenerExists(const znCUniqueId& pType) const;
     void listenerRegister(const znCUniqueId& pType, znIMessageListener* pListener);
     // Also clears the priority listener if pListener is the one.
     void listenerDeregister(const znCUniqueId& pType, znIMessageListener* pListener);

@@ -130,6 +130,21 @@ TEST_F(znCGuiElementsTest, ButtonsAct)
     EXPECT_FALSE(tap(0, 100));
 }
 
+TEST_F(znCGuiElementsTest, ActionsThatNobodyTakesAreLogged)
+{
+    guiCreate(R"(Screen {
+        znCButtonComponent { name = "a" posX = -100 buttonImage = "button.png" action = "lodGui x.txt" }
+        znCButtonComponent { name = "own" buttonImage = "button.png" action = "SliderMoved x" }
+    })");
+    frame();
+    EXPECT_THAT(errorsTake(), testing::Contains("The action of button own can't be SliderMoved, which isn't a "
+                                                "button's message."));
+    tap(-100, 0);
+    EXPECT_NE(mCore.mPlatform.logGet().find("Nothing listens to the action of button a."), std::string::npos);
+    tap(0, 0);
+    EXPECT_EQ(Screen::sClicked, "own") << "as a button without an action";
+}
+
 TEST_F(znCGuiElementsTest, ButtonsLightUp)
 {
     guiCreate("Screen { znCButtonComponent { name = \"a\" buttonImage = \"button.png\" buttonDownImage = \"over.png\" "
@@ -279,6 +294,7 @@ TEST_F(znCGuiElementsTest, DelayBlocksTheButtonUntilItIsOver)
     EXPECT_TRUE(delay->isCharging());
     delay->delaySet(120);
     EXPECT_FALSE(delay->isCharging());
+    EXPECT_FALSE(delay->entityGet()->activeGet()) << "cut short, it is over";
 }
 
 TEST_F(znCGuiElementsTest, DelayBarFillsFromItsSide)
@@ -390,6 +406,27 @@ TEST_F(znCGuiElementsTest, ActionsOpenAndCloseScreens)
     tap(0, 100);
     tap(0, -100);
     EXPECT_EQ(errorsTake(), (Lines{"Gui Three not found for closing.", "Gui  not found for closing."}));
+}
+
+// A screen that takes such a name by mistake must not take the program down with it.
+TEST_F(znCGuiElementsTest, ClosingReachesNothingThatTheProgramStandsOn)
+{
+    znIDisplay* display = znIDisplay::instanceGet();
+    auto* root = new znINode("AppDisplay");
+    display->childAdd(root);
+    display->childAdd(new znCEntity("Fade"));
+    root->childAdd(new znCEntity("Panel"));
+    for (const std::string& name : {display->nameGet(), std::string("AppDisplay"), std::string("Fade")})
+    {
+        znCButtonActionData action{name, nullptr};
+        EXPECT_TRUE(znCGuiMessageDispatcher::instanceGet()->messageSend(znCGuiMessageDispatcher::CLOSE_GUI, &action));
+        EXPECT_EQ(errorsTake(), (Lines{"Gui " + name + " not found for closing."}));
+    }
+    znCButtonActionData action{"Panel", nullptr};
+    znCGuiMessageDispatcher::instanceGet()->messageSend(znCGuiMessageDispatcher::CLOSE_GUI, &action);
+    frame();
+    EXPECT_NE(display->childFind("Fade"), nullptr);
+    EXPECT_EQ(display->childFind("Panel"), nullptr);
 }
 
 TEST_F(znCGuiElementsTest, ScreenFromAButtonOutsideAnyScreenStillShows)

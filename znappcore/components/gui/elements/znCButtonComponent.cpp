@@ -1,5 +1,7 @@
 #include "znappcore/components/gui/elements/znCButtonComponent.h"
 
+#include "znappcore/components/gui/elements/znCCheckBoxComponent.h"
+#include "znappcore/components/gui/elements/znCSliderComponent.h"
 #include "znappcore/components/gui/znIGuiComponent.h"
 #include "znappcore/components/znCTextSpriteComponent.h"
 #include "znappcore/src/znCEntity.h"
@@ -10,9 +12,17 @@
 #include "zncore/znCResourceName.h"
 #include "zncore/znStr.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace
 {
 constexpr const char* CLICK_SOUND = "audio/sfx/click.wav";
+
+// Their listeners expect other data than a button's.
+constexpr znCUniqueId FOREIGN_MESSAGES[] = {znCCheckBoxComponent::TOGGLED, znCSliderComponent::MOVED,
+                                            znCSliderComponent::RELEASED,
+                                            znCGuiMessageDispatcher::TUTORIAL_BUTTON_PRESSED};
 } // namespace
 
 znCButtonComponent::znCButtonComponent(znCEntity* pEntity) : znIGestureHandlingComponent(pEntity, true, false, false)
@@ -53,7 +63,9 @@ void znCButtonComponent::actionPerform()
     znIAudioManager::instanceGet()->effectPlay(znCResourceName(CLICK_SOUND, znCResourceName::GAME_DATA), false);
     if (mActionType != UNSET_ACTION)
     {
-        znCGuiMessageDispatcher::instanceGet()->messageSend(mActionType, &mAction);
+        znCGuiMessageDispatcher* dispatcher = znCGuiMessageDispatcher::instanceGet();
+        if (!dispatcher->messageSend(mActionType, &mAction) && !dispatcher->listenerExists(mActionType))
+            ZN_LOG("Nothing listens to the action of button %s.\n", mEntity->nameGet().c_str());
         return;
     }
     znIGuiComponent* gui = znIGuiComponent::owningGuiGet(this);
@@ -68,6 +80,11 @@ void znCButtonComponent::actionSet(const std::string& pAction)
     znStr message = pAction.substr(0, blank);
     message.trimLeft();
     message.trimRight();
-    mActionType = pAction.empty() ? UNSET_ACTION : znCUniqueId(message);
+    const znCUniqueId type(message);
+    const bool foreign =
+        std::find(std::begin(FOREIGN_MESSAGES), std::end(FOREIGN_MESSAGES), type) != std::end(FOREIGN_MESSAGES);
+    ZN_ASSERT(!foreign, "The action of button %s can't be %s, which isn't a button's message.\n",
+              mEntity->nameGet().c_str(), message.c_str());
+    mActionType = pAction.empty() || foreign ? UNSET_ACTION : type;
     mAction.mParam = blank == std::string::npos ? std::string() : pAction.substr(blank + 1);
 }

@@ -29,7 +29,8 @@ public:
 
     // What a press does: the sound of a click, then the action; logged if neither action nor GUI took it.
     void actionPerform();
-    // The text of the key "action". The message's payload is znCButtonActionData.
+    // The text of the key "action". The message's payload is znCButtonActionData; the messages of other controls, which
+    // carry something else, are refused with a line in the log.
     void actionSet(const std::string& pAction);
 
 private:

@@ -205,4 +205,6 @@ void znCButtonDelayComponent::delaySet(s32 pDelayMs)
     const bool charging = isCharging();
     mDelayMs = std::max(pDelayMs, 0);
     mElapsedMs = charging ? std::min(mElapsedMs, mDelayMs) : mDelayMs;
+    if (charging)
+        refresh(); // it may be over by now, and no update would say so
 }
