@@ -134,21 +134,23 @@ void znCQuadDrawer::verticesAppend(const s3eDrawRun& pRun)
     const size_t uvStep = pRun.mUvs == nullptr ? 0 : 2;
     const u32* colour = pRun.mColours == nullptr ? &pRun.mColour : pRun.mColours;
     const size_t colourStep = pRun.mColours == nullptr ? 0 : 1;
-    const size_t first = mVertices.size();
-    mVertices.resize(first + count);
-    Vertex* vertex = mVertices.data() + first;
+    if (mVertices.size() < mVertexCount + count)
+        mVertices.resize(mVertexCount + count);
+    Vertex* vertex = mVertices.data() + mVertexCount;
     for (const float* position = pRun.mPositions; position != pRun.mPositions + 2 * count; position += 2)
     {
         *vertex++ = {position[0], position[1], uv[0], uv[1], *colour};
         uv += uvStep;
         colour += colourStep;
     }
+    mVertexCount += count;
 }
 
 void znCQuadDrawer::verticesUpload()
 {
-    mGl.BufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(mVertices.size() * sizeof(Vertex)), mVertices.data(),
+    mGl.BufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(mVertexCount * sizeof(Vertex)), mVertices.data(),
                    GL_STREAM_DRAW);
+    mVertexCount = 0;
     rebase(0);
 }
 
@@ -209,7 +211,6 @@ void znCQuadDrawer::flush()
 {
     if (mRuns.empty())
         return;
-    mVertices.clear();
     for (const s3eDrawRun& run : mRuns)
         verticesAppend(run);
     verticesUpload();
@@ -227,11 +228,11 @@ void znCQuadDrawer::flush()
 
 void znCQuadDrawer::pictureDraw(GLuint pTexture)
 {
-    const u32 white = 0xffffffff;
     const auto right = static_cast<float>(mWidth);
     const auto bottom = static_cast<float>(mHeight);
-    mVertices.assign(
-        {{0, 0, 0, 1, white}, {0, bottom, 0, 0, white}, {right, bottom, 1, 0, white}, {right, 0, 1, 1, white}});
+    const float corners[] = {0, 0, 0, bottom, right, bottom, right, 0};
+    const float uvs[] = {0, 1, 0, 0, 1, 0, 1, 1};
+    verticesAppend({0, S3E_DRAW_BLEND_NONE, 0xffffffff, 4, corners, uvs, nullptr});
     verticesUpload();
     blendSet(S3E_DRAW_BLEND_NONE);
     mTexture = 0;

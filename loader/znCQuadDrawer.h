@@ -47,7 +47,8 @@ private:
     const znCTextureStore& mTextures;
     std::string mError;
     std::vector<s3eDrawRun> mRuns;
-    std::vector<Vertex> mVertices;
+    std::vector<Vertex> mVertices; // only grows, so that no frame clears what it writes next
+    size_t mVertexCount = 0;       // of those the ones to upload
     GLuint mProgram = 0;
     GLint mScale = 0; // the uniform's place
     GLuint mVertexBuffer = 0;
