@@ -1,6 +1,7 @@
 #include "zncore/znAffineMtx2d.h"
 #include "zncore/debug/znIDebug.h"
-#include "zncore/znNCoreUtils.h"
+
+#include <cmath>
 
 // The element's place in the class, null if there is none.
 float znAffineMtx2d::*znAffineMtx2d::elementGet(s32 pRow, s32 pColumn) const
@@ -29,8 +30,8 @@ float znAffineMtx2d::get(s32 pRow, s32 pColumn) const
 
 void znAffineMtx2d::fromPosScaleRotation(const znPoint& pPosition, float pScaleX, float pScaleY, float pRadians)
 {
-    const float sine = znNCoreUtils::sin(pRadians);
-    const float cosine = znNCoreUtils::cos(pRadians);
+    const float sine = std::sin(pRadians); // side by side, so that the compiler takes both in one step
+    const float cosine = std::cos(pRadians);
     m00 = pScaleX * cosine;
     m10 = -(pScaleX * sine);
     m01 = pScaleY * sine;

@@ -70,10 +70,10 @@ private:
     template <class Event>
     void forward(Event pEvent);
 
-    std::map<u32, znIComponent*> mComponentsMap; // by type; not owned
+    bool mIterating = false;
     std::vector<std::unique_ptr<znIComponent>> mComponentsVector;
     std::vector<std::pair<std::unique_ptr<znIComponent>, znCUniqueId>> mPendingComponents;
-    bool mIterating = false;
+    std::map<u32, znIComponent*> mComponentsMap; // by type; not owned
 };
 
 template <class T>

@@ -41,9 +41,10 @@ public:
 private:
     void cornersTransform();
 
+    // What drawing a still sprite looks at comes first.
+    znCBrushPtr mBrush;
     znCSpriteRenderData mRenderData;
     znAffineMtx2d mMatrix;
-    znCBrushPtr mBrush;
     znPointF mLocalCorners[4] = {};
     znPointF mWorldCorners[4] = {};
     s32 mWidth = 0;

@@ -1,7 +1,6 @@
 #include "znappcore/src/znCSpriteRenderData.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace
 {
@@ -11,11 +10,6 @@ u32 byteGet(float pComponent)
     return static_cast<u32>(std::min(1.0f, std::max(0.0f, pComponent)) * 255.0f);
 }
 } // namespace
-
-void znCSpriteRenderData::verticesSet(const znPointF pCorners[4])
-{
-    std::memcpy(mVertices, pCorners, sizeof mVertices);
-}
 
 void znCSpriteRenderData::uvsSet(float pU0, float pU1, float pV0, float pV1)
 {

@@ -3,11 +3,14 @@
 
 #include "znappcore/znISpriteRenderData.h"
 
+#include <cstring>
+
 // The streams of one quad, kept ready so that drawing only copies them.
 class znCSpriteRenderData final : public znISpriteRenderData
 {
 public:
-    void verticesSet(const znPointF pCorners[4]) override;
+    // In the header, since a sprite sets them each time it moves.
+    void verticesSet(const znPointF pCorners[4]) override { std::memcpy(mVertices, pCorners, sizeof mVertices); }
     void uvsSet(float pU0, float pU1, float pV0, float pV1) override;
     void colourSet(const znCColour& pColour) override;
 
