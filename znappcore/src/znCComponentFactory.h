@@ -19,7 +19,9 @@ public:
 
     virtual ~znCComponentFactory();
 
+    // A second call logs "Already created znCComponentFactory.\n" and starts anew.
     static void create();
+    // Logs "Not created.\n" and answers null without an instance.
     static znCComponentFactory* instanceGet();
     static void destroy(); // silent without an instance
 

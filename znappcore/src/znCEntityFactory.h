@@ -17,7 +17,9 @@ class znCEntity;
 class znCEntityFactory
 {
 public:
+    // A second call logs "Already created znCEntityFactory.\n" and starts anew.
     static void create();
+    // Without an instance both log "Not created.\n"; instanceGet answers null then.
     static znCEntityFactory* instanceGet();
     static void destroy();
 

@@ -14,7 +14,15 @@
 namespace
 {
 std::unique_ptr<znCGuiMessageDispatcher> sInstance;
+
+// The display, the root of all screens, the fade and the cursor bear names too, but the program stands on them.
+bool closableGet(const znINode& pNode)
+{
+    const auto* entity = dynamic_cast<const znCEntity*>(&pNode);
+    return entity != nullptr &&
+           (entity->parentGet() != znIDisplay::instanceGet() || znIGuiComponent::guiComponentGet(entity) != nullptr);
 }
+} // namespace
 
 void znCGuiMessageDispatcher::create()
 {
@@ -58,8 +66,9 @@ void znCGuiMessageDispatcher::closeGuiMessageHandle(const znCButtonActionData& p
 {
     // A node without a name is not what an action without an argument means.
     znINode* gui = pAction.mParam.empty() ? nullptr : znIDisplay::instanceGet()->childFind(pAction.mParam);
-    ZN_ASSERT(gui != nullptr, "Gui %s not found for closing.\n", pAction.mParam.c_str());
-    if (gui != nullptr)
+    const bool found = gui != nullptr && closableGet(*gui);
+    ZN_ASSERT(found, "Gui %s not found for closing.\n", pAction.mParam.c_str());
+    if (found)
         gui->destroy();
 }
 

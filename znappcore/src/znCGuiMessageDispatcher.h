@@ -17,7 +17,9 @@ class znCGuiMessageDispatcher : public znIMessageDispatcher
 {
 public:
     // Payload of these four: znCButtonActionData.
-    static constexpr znCUniqueId CLOSE_GUI{"closeGui"};           // mParam: name of the node to destroy
+    // mParam: name of the entity to destroy; one that isn't there, or that no file made, logs
+    // "Gui %s not found for closing.\n".
+    static constexpr znCUniqueId CLOSE_GUI{"closeGui"};
     static constexpr znCUniqueId LOAD_GUI{"loadGui"};             // mParam: GUI file, opened below the button's own GUI
     static constexpr znCUniqueId LOAD_GUI_TUT{"loadGuiTut"};      // the same, then TUTORIAL_BUTTON_PRESSED
     static constexpr znCUniqueId LAUNCH_BROWSER{"launchBrowser"}; // mParam: web address
@@ -25,7 +27,9 @@ public:
     // Payload: std::string, the name of the button's entity.
     static constexpr znCUniqueId TUTORIAL_BUTTON_PRESSED{"tutorialButtonPressed"};
 
+    // A second call logs "Already created znCGuiMessageDispatcher.\n" and starts anew.
     static void create();
+    // Without an instance both log "Not created.\n"; instanceGet answers null then.
     static znCGuiMessageDispatcher* instanceGet();
     static void destroy();
 
