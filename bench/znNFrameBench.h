@@ -32,8 +32,7 @@ namespace znNFrameBench
 {
 enum class Driver
 {
-    SOFTWARE, // Mesa's software driver with a surface of one pixel: it places every corner, and there is nothing to
-              // fill
+    SOFTWARE, // Mesa's software driver on a surface of one pixel: it places every corner and fills nothing
     NONE      // Mesa's driver that takes everything and does nothing
 };
 
