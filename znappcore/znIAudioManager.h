@@ -23,7 +23,7 @@ public:
     virtual void update(s32 pDeltaMs) = 0;
     virtual void masterVolumeSet(float pVolume) = 0;
     // Starts a track that repeats until another follows. The name that plays already goes on from where it is. A track
-    // that can't be played leaves no name.
+    // that can't be played is logged and leaves no name.
     virtual void musicPlay(const znCResourceName& pName) = 0;
     virtual const std::string& musicNameGet() const = 0; // empty while there is none
     // Keeps the name, so that the same track asked for again stays silent.

@@ -126,7 +126,8 @@ void znIRenderer::frameEnd()
 void znIRenderer::spriteAddToBatch(znISpriteRenderData* pData)
 {
     const bool room = mSpriteCount + 1 < mMaxSprites;
-    ZN_ASSERT(room, "No room to batch another sprite. Increase mMaxSprites.\n");
+    ZN_ASSERT(room || mSpritesFullLogged, "No room to batch another sprite. Increase mMaxSprites.\n");
+    mSpritesFullLogged = mSpritesFullLogged || !room;
     if (!room)
         return;
     const bool runOpen = !mJobs.empty() && mJobs.back()->typeIdGet() == znCRenderJobSprites::TYPE;
@@ -155,7 +156,8 @@ bool znIRenderer::materialIncrementIfChanged(const znISpriteRenderData& pData)
 bool znIRenderer::materialRunAdd(const znISpriteRenderData& pData)
 {
     const bool room = mMaterialIndex + 1 < mMaxMaterialChanges;
-    ZN_ASSERT(room, "No room to batch another material. Increase mMaxMaterialChanges.\n");
+    ZN_ASSERT(room || mMaterialsFullLogged, "No room to batch another material. Increase mMaxMaterialChanges.\n");
+    mMaterialsFullLogged = mMaterialsFullLogged || !room;
     if (!room)
         return false;
     ++mMaterialIndex;
@@ -167,7 +169,8 @@ bool znIRenderer::materialRunAdd(const znISpriteRenderData& pData)
 void znIRenderer::textAddToBatch(znITextRenderData* pData)
 {
     const bool room = mTextCount + 1 < mMaxSprites;
-    ZN_ASSERT(room, "No room to batch another text. Increase mMaxSprites.\n");
+    ZN_ASSERT(room || mTextsFullLogged, "No room to batch another text. Increase mMaxSprites.\n");
+    mTextsFullLogged = mTextsFullLogged || !room;
     if (!room)
         return;
     const bool runOpen = !mJobs.empty() && mJobs.back()->typeIdGet() == znCRenderJobText::TYPE;
@@ -196,7 +199,8 @@ bool znIRenderer::fontIncrementIfChanged(const znITextRenderData& pData)
 bool znIRenderer::fontRunAdd(const znITextRenderData& pData)
 {
     const bool room = mFontIndex + 1 < mMaxMaterialChanges;
-    ZN_ASSERT(room, "No room to batch another font. Increase mMaxMaterialChanges.\n");
+    ZN_ASSERT(room || mFontsFullLogged, "No room to batch another font. Increase mMaxMaterialChanges.\n");
+    mFontsFullLogged = mFontsFullLogged || !room;
     if (!room)
         return false;
     ++mFontIndex;

@@ -65,9 +65,10 @@ public:
     virtual void spritesDraw(s32 pFirst, s32 pLast) = 0;
     virtual void textDraw(s32 pFirst, s32 pLast) = 0;
 
-    // A full batch logs "No room to batch another sprite. Increase mMaxSprites.\n" and drops this one.
+    // A full batch drops this one. The first time it logs "No room to batch another sprite. Increase mMaxSprites.\n":
+    // a line a sprite and frame would fill the log.
     void spriteAddToBatch(znISpriteRenderData* pData);
-    // A full batch logs "No room to batch another text. Increase mMaxSprites.\n" and drops this one.
+    // The same, with "No room to batch another text. Increase mMaxSprites.\n".
     void textAddToBatch(znITextRenderData* pData);
 
     void frameClear();
@@ -105,6 +106,12 @@ protected:
     s32 mFontIndex = -1; // of the last run of texts; -1 before the first
     s32 mMaxSprites;
     s32 mMaxMaterialChanges;
+
+private:
+    bool mSpritesFullLogged = false;
+    bool mMaterialsFullLogged = false;
+    bool mTextsFullLogged = false;
+    bool mFontsFullLogged = false;
 };
 
 #endif

@@ -74,6 +74,7 @@ TEST_F(znCAudioManagerTest, musicStartsOnceForANameAndFailureForgetsIt)
     mPlatform.mAudioResult = S3E_RESULT_ERROR;
     musicPlay("audio/music/cabin.ogg");
     EXPECT_EQ(mAudio->musicNameGet(), "");
+    EXPECT_EQ(mPlatform.logCountGet("Music audio/music/cabin.ogg can't be played."), 1);
     mPlatform.mAudioResult = S3E_RESULT_SUCCESS;
     musicPlay("audio/music/cabin.ogg");
     EXPECT_EQ(mAudio->musicNameGet(), "audio/music/cabin.ogg");

@@ -145,12 +145,15 @@ TEST_F(znCParticleEmitterTest, namesEachFaultAndReadsOn)
     };
     for (const auto& [text, message] : cases)
     {
-        const znCParticleDataPtr data = dataMake(std::string(text) + "\nparticleLifeMs = 77;");
+        const znCParticleDataPtr data = dataMake("# one\n#two\n" + std::string(text) + "\nparticleLifeMs = 77;");
         const std::string log = logTake();
         EXPECT_NE(log.find(message), std::string::npos) << text << "\n" << log;
+        EXPECT_NE(log.find("particles/test.txt line 3: "), std::string::npos) << text << "\n" << log;
         EXPECT_EQ(std::count(log.begin(), log.end(), '\r'), 2) << text << "\n" << log; // of one failed check
         EXPECT_EQ(data->mParticleLifeMs, 77) << text;
     }
+    dataMake(std::string(100000, 'x') + " = 1;");
+    EXPECT_NE(logTake().find(" in particle file particles/test.txt"), std::string::npos);
     std::string rubbish;
     for (s32 i = 0; i < 1000; ++i)
         rubbish += "rubbish = 1;";
@@ -285,15 +288,17 @@ TEST_F(znCParticleEmitterTest, playsAnimationsAsParticles)
     emitter.update(100);
     EXPECT_EQ(drawn(emitter)[0].mUvs[0], 0.5f);
     const std::string log = logTake();
-    EXPECT_NE(log.find("Colours on animation particles are not supported currently."), std::string::npos);
+    EXPECT_NE(log.find("particles/test.txt: Colours on animation particles are not supported currently."),
+              std::string::npos);
     EXPECT_EQ(std::count(log.begin(), log.end(), '\r'), 2) << log; // no line a frame
 }
 
 TEST_F(znCParticleEmitterTest, saysThatItHasNoPicture)
 {
     znCParticleEmitter emitter(dataMake("maxParticles = 5; emitSpeed = 100;"));
-    EXPECT_NE(logTake().find("Expecting either an 'imageFileName' or 'animFileName' for a particle."),
-              std::string::npos);
+    EXPECT_NE(
+        logTake().find("particles/test.txt: Expecting either an 'imageFileName' or 'animFileName' for a particle."),
+        std::string::npos);
     emitter.update(1000);
     emitter.prerunDo();
     EXPECT_EQ(emitter.liveCountGet(), 0);

@@ -11,5 +11,4 @@ znCAnimationParticle::znCAnimationParticle(const znCParticleData& pData)
 void znCAnimationParticle::colourGraphUpdate()
 {
     ZN_ASSERT(mColourGraph == nullptr, "Colours on animation particles are not supported currently.\n");
-    mColourGraph = nullptr;
 }

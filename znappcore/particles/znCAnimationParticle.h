@@ -11,7 +11,7 @@ public:
     explicit znCAnimationParticle(const znCParticleData& pData);
 
 protected:
-    // A graph is logged ("Colours on animation particles are not supported currently.\n"), once a particle.
+    // A graph is logged ("Colours on animation particles are not supported currently.\n"); data from files has none.
     void colourGraphUpdate() override;
     void matrixApply(const znAffineMtx2d& pMatrix) override { mAnimation->matrixApply(pMatrix); }
     void updateDo(s32 pDeltaMs) override { mAnimation->update(pDeltaMs); }

@@ -10,6 +10,7 @@
 #include "zncore/znTypes.h"
 
 #include <memory>
+#include <string>
 
 struct znCParticleData;
 
@@ -37,6 +38,7 @@ struct znCParticlePair
 // milliseconds, lengths canvas units, rates per second, angles radians.
 struct znCParticleData
 {
+    std::string mFile;           // its name, for the log
     bool mLinkToEmitter = false; // the particles stay attached to the emitter
     s32 mMaxParticles = 0;
     s32 mParticleLifeMs = 0; // 0: for ever

@@ -23,7 +23,8 @@ void znCParticleEmitter::particleCacheCreate()
     ZN_ASSERT(mParticles.empty(), "Expected the particle cache to be empty.\n");
     const bool sprite = mData->mBrush != nullptr;
     const bool picture = sprite || mData->mAnimation != nullptr;
-    ZN_ASSERT(picture, "Expecting either an 'imageFileName' or 'animFileName' for a particle.\n");
+    ZN_ASSERT(picture, "%s: Expecting either an 'imageFileName' or 'animFileName' for a particle.\n",
+              mData->mFile.c_str());
     if (!picture)
         return;
     mParticles.resize(static_cast<std::size_t>(mData->mMaxParticles));

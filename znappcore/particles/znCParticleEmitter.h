@@ -10,8 +10,8 @@
 class znCParticleEmitter
 {
 public:
-    // Data without a picture or animation logs "Expecting either an 'imageFileName' or 'animFileName' for a
-    // particle.\n"; nothing is ever spawned then.
+    // Data without a picture or animation logs the file's name and "Expecting either an 'imageFileName' or
+    // 'animFileName' for a particle.\n"; nothing is ever spawned then.
     explicit znCParticleEmitter(const znCParticleDataPtr& pData);
     znCParticleEmitter(const znCParticleEmitter&) = delete;
     znCParticleEmitter& operator=(const znCParticleEmitter&) = delete;

@@ -7,6 +7,7 @@
 #include "zncore/znNCoreUtils.h"
 #include "zncore/znStr.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -16,6 +17,7 @@ constexpr std::string_view WHITE = " \t\r\n";
 constexpr std::string_view WORD_ENDS = " \t\r\n=;,#";
 constexpr std::string_view DIGITS = "0123456789";
 constexpr std::string_view FLOAT_CHARACTERS = "0123456789.-";
+constexpr std::size_t REPORTED_CHARACTERS_MAX = 64; // of a word in the log; all that is known is shorter
 constexpr float ONE = 1.0f;
 constexpr float RADIANS_PER_DEGREE = std::numbers::pi_v<float> / 180.0f;
 constexpr s32 RANGE_FIXED_ONE = 2048; // a range counts to both sides of its value
@@ -28,8 +30,9 @@ s32 truncated(float pValue)
 } // namespace
 
 znCParticleFileReader::znCParticleFileReader(const znCResourceName& pName)
-    : mFile(pName.nameGet()), mText(znNCoreUtils::strGetFromFile(pName)), mRest(mText)
+    : mText(znNCoreUtils::strGetFromFile(pName)), mRest(mText), mCommandBegin(mRest.begin())
 {
+    mData->mFile = pName.nameGet();
 }
 
 std::shared_ptr<znCParticleData> znCParticleFileReader::read()
@@ -37,6 +40,12 @@ std::shared_ptr<znCParticleData> znCParticleFileReader::read()
     for (commentsSkip(); !mRest.empty(); commentsSkip())
         if (!characterTake(';') && !commandRead())
             commandSkip();
+    // Said here once, not by each particle.
+    const bool animated = mData->mBrush == nullptr && mData->mAnimation != nullptr;
+    ZN_ASSERT(!animated || mData->mColourGraph == nullptr,
+              "%s: Colours on animation particles are not supported currently.\n", mData->mFile.c_str());
+    if (animated)
+        mData->mColourGraph.reset();
     return mData;
 }
 
@@ -44,9 +53,11 @@ bool znCParticleFileReader::faultReport(const std::string& pMessage, const char*
 {
     constexpr s32 REPORTS_MAX = 20;
     ++mFaults;
-    ZN_ASSERT(mFaults >= REPORTS_MAX, "%s in particle file %s%s\n", pMessage.c_str(), mFile.c_str(), pAdvice);
+    const char* file = mData->mFile.c_str();
+    ZN_ASSERT(mFaults >= REPORTS_MAX, "%s line %d: %s in particle file %s%s\n", file, mCommandLine, pMessage.c_str(),
+              file, pAdvice);
     if (mFaults == REPORTS_MAX)
-        ZN_LOG("Particle file %s has more faults.\n", mFile.c_str());
+        ZN_LOG("Particle file %s has more faults.\n", file);
     return false;
 }
 
@@ -153,7 +164,9 @@ znCParticleFileReader::ValueReader znCParticleFileReader::valueReaderFind(std::s
 
 bool znCParticleFileReader::commandRead()
 {
-    mCommand = wordTake();
+    mCommandLine += static_cast<s32>(std::count(mCommandBegin, mRest.begin(), '\n'));
+    mCommandBegin = mRest.begin();
+    mCommand = wordTake().substr(0, REPORTED_CHARACTERS_MAX);
     const ValueReader reader = valueReaderFind(mCommand);
     if (reader == nullptr)
         return faultReport("Unknown particle command:" + mCommand);
@@ -215,7 +228,7 @@ bool znCParticleFileReader::alphaModeRead()
                                                                  {"normal", znCMaterial::BLEND_ALPHA},
                                                                  {"add", znCMaterial::BLEND_ADD},
                                                                  {"subtract", znCMaterial::BLEND_SUBTRACT}};
-    const std::string_view word = wordTake();
+    const std::string_view word = wordTake().substr(0, REPORTED_CHARACTERS_MAX);
     for (const auto& [name, mode] : MODES)
         if (word == name)
         {

@@ -9,8 +9,9 @@
 class znCResourceName;
 
 // Reads one particle file: commands "name = value ;" with white space between them as one likes, and comments from "#",
-// where a command could start, to the end of the line. A faulty command is logged with the file's name and left out;
-// reading goes on behind its ";", or with the next command if that is what is missing.
+// where a command could start, to the end of the line. A faulty command is logged with the file's name and the line
+// that it begins in, and left out; reading goes on behind its ";", or with the next command if that is what is missing.
+// Colours over time of animated particles are logged and left out, too.
 class znCParticleFileReader
 {
 public:
@@ -59,10 +60,11 @@ private:
     // Puts the file's name between the two texts. Answers false, for the end of a reader.
     bool faultReport(const std::string& pMessage, const char* pAdvice = "");
 
-    std::string mFile;      // for the log
     std::string mText;      // of the file
     std::string_view mRest; // what is still to be read of it
     std::string mCommand;   // being read
+    std::string_view::iterator mCommandBegin;
+    s32 mCommandLine = 1; // of mCommandBegin
     std::shared_ptr<znCParticleData> mData = std::make_shared<znCParticleData>();
     s32 mFaults = 0;
 };

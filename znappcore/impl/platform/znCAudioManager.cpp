@@ -79,7 +79,10 @@ void znCAudioManager::musicPlay(const znCResourceName& pName)
 {
     if (pName.nameGet() == mMusicName)
         return;
-    mMusicName = s3eAudioPlay(pName.nameGet().c_str(), 0) == S3E_RESULT_SUCCESS ? pName.nameGet() : "";
+    const bool plays = s3eAudioPlay(pName.nameGet().c_str(), 0) == S3E_RESULT_SUCCESS;
+    if (!plays)
+        ZN_LOG("Music %s can't be played.\n", pName.nameGet().c_str());
+    mMusicName = plays ? pName.nameGet() : "";
 }
 
 void znCAudioManager::musicStop()
