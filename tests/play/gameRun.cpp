@@ -29,7 +29,8 @@ std::string quoted(const std::string& pText)
 } // namespace
 
 GameRun::GameRun(const std::string& pName)
-    : mFolder(fs::temp_directory_path() / ("petrel-" + pName + "-" + std::to_string(getpid())))
+    : mFolder(fs::temp_directory_path() / ("petrel-" + pName + "-" + std::to_string(getpid()))),
+      mData(PETREL_ROOT "/data")
 {
     fs::remove_all(mFolder);
     fs::create_directories(mFolder / "user");
@@ -51,13 +52,23 @@ std::string GameRun::scriptWrite(const std::string& pText)
 
 int GameRun::headlessRun(const std::vector<std::string>& pOptions)
 {
-    std::vector<std::string> options = {"--headless",     "--data",  PETREL_ROOT "/data", "--user",
-                                        mFolder / "user", "--shots", mFolder / "shots"};
+    std::vector<std::string> options = {"--headless", "--data",         mData, "--user", mFolder / "user",
+                                        "--shots",    mFolder / "shots"};
     // A recording brings its own clock.
     if (std::find(pOptions.begin(), pOptions.end(), "--replay") == pOptions.end())
         options.insert(options.end(), {"--step", "16", "--seed", "1000"});
     options.insert(options.end(), pOptions.begin(), pOptions.end());
     return run(options);
+}
+
+fs::path GameRun::dataCopy()
+{
+    mData = mFolder / "data";
+    fs::create_directories(mData);
+    for (const char* part : {"common", "cursors", "fonts", "gui", "appsettings.txt", "strings.xml"})
+        if (fs::exists(fs::path(PETREL_ROOT "/data") / part))
+            fs::copy(fs::path(PETREL_ROOT "/data") / part, mData / part, fs::copy_options::recursive);
+    return mData;
 }
 
 int GameRun::run(const std::vector<std::string>& pOptions)

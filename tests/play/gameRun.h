@@ -20,6 +20,9 @@ public:
     std::string scriptWrite(const std::string& pText);
     // Headless with a virtual clock, the given options behind the usual ones; answers the exit status.
     int headlessRun(const std::vector<std::string>& pOptions);
+    // A copy of the data that screens need, without scenes and sounds, for a test to change; headlessRun uses it
+    // instead of the data that ships.
+    std::filesystem::path dataCopy();
     // Exactly these options.
     int run(const std::vector<std::string>& pOptions);
 
@@ -33,6 +36,7 @@ public:
 
 private:
     std::filesystem::path mFolder;
+    std::filesystem::path mData; // what headlessRun plays
 };
 
 // Lines of a log that report a fault.

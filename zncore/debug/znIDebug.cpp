@@ -10,7 +10,7 @@
 namespace
 {
 znIDebug* sInstance = nullptr; // deleted by destroy()
-u32 sFailureCount = 0;
+u32 sReportCount = 0;
 
 constexpr const char* LINE_END = "\r\n";
 constexpr const char* LOG_FULL = "The log is full; nothing more is written.\r\n";
@@ -105,9 +105,9 @@ znIDebug::~znIDebug()
     mLogFile->close();
 }
 
-u32 znIDebug::failureCountGet()
+u32 znIDebug::reportCountGet()
 {
-    return sFailureCount;
+    return sReportCount;
 }
 
 void znIDebug::textWrite(const std::string& pText)
@@ -136,7 +136,7 @@ std::string znIDebug::methodNameGet(const char* pFunction)
 
 void znIDebug::assertionReport(const char* pFile, s32 pLine, const char* pFunction, const char* pFormat, ...)
 {
-    ++sFailureCount;
+    ++sReportCount;
     if (sInstance == nullptr)
         return;
     char message[MESSAGE_SIZE];
@@ -155,6 +155,7 @@ void znIDebug::assertionReport(const char* pFile, s32 pLine, const char* pFuncti
 
 void znIDebug::lineReport(const char* pFunction, const char* pFormat, ...)
 {
+    ++sReportCount;
     if (sInstance == nullptr)
         return;
     char message[MESSAGE_SIZE];

@@ -35,9 +35,9 @@ public:
     // No line ending is added.
     void textWrite(const std::string& pText);
 
-    // How many checks have failed so far, also without a log: who reads a file can tell whether a part of it has failed
-    // somewhere below.
-    static u32 failureCountGet();
+    // How many lines and failed checks have been reported so far, also without a log: who reads a file can tell whether
+    // something below had a complaint about a part of it.
+    static u32 reportCountGet();
 
     // What the macros call. pFunction is the compiler's pretty name of the function.
     static void assertionReport(const char* pFile, s32 pLine, const char* pFunction, const char* pFormat, ...)

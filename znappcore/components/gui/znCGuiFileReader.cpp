@@ -320,9 +320,9 @@ void znCGuiFileReader::restSkip(Element& pElement, const Token& pFirst)
 
 void znCGuiFileReader::settingsApply(const Element& pElement)
 {
-    const u32 failures = znIDebug::failureCountGet();
+    const u32 reports = znIDebug::reportCountGet();
     pElement.mEntity->initialiseFromVariableTable(pElement.mSettings);
-    if (znIDebug::failureCountGet() != failures)
+    if (znIDebug::reportCountGet() != reports)
         fault(pElement.mUse, "The faults above are those of %.*s %s.\n", sizeShown(pElement.mType),
               pElement.mType.data(), pElement.mEntity->nameGet().c_str());
 }
