@@ -4,6 +4,7 @@
 #include "loader/znCSdlAudioDevice.h"
 #include "loader/znCSdlWindow.h"
 #include "loader/znCSilentAudioDevice.h"
+#include "loader/znCTextDialog.h"
 #include "loader/znCVirtualWindow.h"
 #include "loader/znNReport.h"
 
@@ -14,6 +15,7 @@ namespace fs = std::filesystem;
 
 namespace
 {
+constexpr const char* DIALOG_FONT = "fonts/clarendon.ttf";
 constexpr const char* TITLE = "The Petrel Mail";
 constexpr const char* MODULE = "libpetrelmail.so";
 constexpr const char* SETTINGS_FILE = "appsettings.txt"; // what tells a data folder
@@ -235,6 +237,8 @@ void znCLoader::liveFrameTake()
     else if (mScriptPlayer.has_value())
         mScriptPlayer->frameRun(mClock->timeGet(), mQueue);
     mQueue.frameTake(mEvents);
+    mEvents.insert(mEvents.begin(), mLateReleases.begin(), mLateReleases.end());
+    mLateReleases.clear();
 }
 
 void znCLoader::replayedFrameTake()
@@ -305,6 +309,13 @@ std::optional<std::string> znCLoader::liveTextAsk(const std::string& pPrompt, co
             return text;
         znNReport::lineWrite("asked for a text (%s), but the script doesn't type one", pPrompt.c_str());
         return std::nullopt;
+    }
+    if (!mOptions.mHeadless)
+    {
+        znCTextDialog dialog(*mWindow, *mScreen, mQueue, mOptions.mDataFolder / DIALOG_FONT);
+        const std::optional<std::string> answer = dialog.ask(pPrompt, pDefault);
+        mLateReleases = dialog.lateReleasesGet();
+        return answer;
     }
     std::cout << pPrompt << " [" << pDefault << "]: " << std::flush;
     if (!std::getline(std::cin, text))

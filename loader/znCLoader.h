@@ -87,6 +87,7 @@ private:
     znCConfig mConfig;
     znCDevice mDevice;
     znCInputQueue mQueue;
+    std::vector<znCInputEvent> mLateReleases; // that a text dialog saw; the module sees them in the next frame
     znCInputScript mScript;
     znCShotWriter mShots;
     znCModule mModule;
