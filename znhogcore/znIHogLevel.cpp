@@ -35,6 +35,9 @@ constexpr char HELP_TEXT_NAME[] = "GUIMinigameHelpText"; // of a text in the lev
 constexpr s32 PLACING_STEP_MS = 1;
 } // namespace
 
+constexpr char HINT_EFFECT_NAME[] = "HintEffect";
+constexpr char HINT_PARTICLES[] = "particles/pHint.txt";
+constexpr s32 HINT_MS = 4000;
 znIHogLevel::znIHogLevel() : znIMessageListenerEntity(NAME) {}
 
 void znIHogLevel::create(const std::string& pName)
@@ -201,6 +204,22 @@ znCSubSceneComponent* znIHogLevel::currentSubSceneGet() const
                                    [](const znCEntity* pEntity) { return pEntity->activeInTreeGet(); });
     ZN_ASSERT(open != mSubScenes.rend(), "Expected to find an active subscene.\n");
     return open != mSubScenes.rend() ? (*open)->componentGet<znCSubSceneComponent>() : nullptr;
+}
+
+void znIHogLevel::hintShow(znCEntity* pEntity)
+{
+    const znCSubSceneComponent* subScene = currentSubSceneGet();
+    if (subScene == nullptr)
+        return;
+    const znINode* button = parentGet()->childFind(HINT_BUTTON_NAME);
+    auto* effect = new znCEntity(HINT_EFFECT_NAME); // owned by the tree
+    subScene->entityGet()->childAdd(effect);
+    effect->componentAdd<znCParticleEmitterComponent>()->initialise(
+        znCResourceName(HINT_PARTICLES, znCResourceName::GAME_DATA));
+    // A GUI without the button has another way to ask for a hint: it comes from the middle of the screen then.
+    const znPoint start = button != nullptr ? button->posRelativeToAncestorGet(parentGet()) : znPoint(0, 0);
+    effect->componentAdd<znCHookedLineTrailComponent>()->trailInitialise(start, pEntity->posGet(), HINT_MS, true);
+    znCUserSavedData::instanceGet()->s32Set(HINT_FREE_STREAK_KEY, HINT_USED);
 }
 
 std::string znIHogLevel::nextLevelGet() const

@@ -17,6 +17,10 @@ public:
     static constexpr const char* NAME = "HogLevel";
     // Key of the player's data: the stored state of the level whose name stands behind it.
     static constexpr const char* SAVED_STATE_KEY = "LevDat:";
+    // Of the player's data: levels finished in a row without a hint, HINT_USED from a hint to the end of its level.
+    static constexpr const char* HINT_FREE_STREAK_KEY = "succesiveHintFreeLevel";
+    static constexpr s32 HINT_USED = -1;
+    static constexpr const char* HINT_BUTTON_NAME = "gameGuiHintButton";
     static constexpr const char* NEXT_LEVEL_KEY = "ACT1NextLev"; // of the level's table: the screen behind it
 
     // Opens the level of that name from its folder "scenes/" + pName + "/". With a level on the screen it logs
@@ -39,6 +43,9 @@ public:
     void levelQuit(); // to the main menu
     void levelStateStore();
 
+    // Sends sparkles from the hint button to pEntity, which stands in the current sub-scene, and ends the player's row
+    // of levels without a hint.
+    void hintShow(znCEntity* pEntity);
     // The topmost open sub-scene. Null, with "Expected to find an active subscene.\n", if none is open.
     znCSubSceneComponent* currentSubSceneGet() const;
     std::string nextLevelGet() const; // the screen behind this level, empty if the level's table names none
