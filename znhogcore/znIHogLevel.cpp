@@ -1,6 +1,8 @@
 #include "znhogcore/znIHogLevel.h"
 
 #include "znappcore/components/gui/znIGuiComponent.h"
+#include "znappcore/components/znCHookedLineTrailComponent.h"
+#include "znappcore/components/znCParticleEmitterComponent.h"
 #include "znappcore/components/znCTextSpriteComponent.h"
 #include "znappcore/src/znCGuiMessageDispatcher.h"
 #include "znappcore/src/znCLocalisedStrings.h"
