@@ -35,11 +35,11 @@ constexpr char GUI_FILE[] = "gui/hogGui/hogGui.txt";     // of a level that name
 constexpr char PLAY_TIME_KEY[] = "time";                 // of the player's data: milliseconds in all levels
 constexpr char HELP_TEXT_NAME[] = "GUIMinigameHelpText"; // of a text in the level's GUI
 constexpr s32 PLACING_STEP_MS = 1;
-} // namespace
-
 constexpr char HINT_EFFECT_NAME[] = "HintEffect";
 constexpr char HINT_PARTICLES[] = "particles/pHint.txt";
 constexpr s32 HINT_MS = 4000;
+} // namespace
+
 znIHogLevel::znIHogLevel() : znIMessageListenerEntity(NAME) {}
 
 void znIHogLevel::create(const std::string& pName)
@@ -60,6 +60,11 @@ znIHogLevel* znIHogLevel::levelGet()
     return dynamic_cast<znIHogLevel*>(znCHogCoreMain::instanceGet()->appDisplayChildFind(NAME));
 }
 
+std::string znIHogLevel::folderOfGet(const std::string& pName)
+{
+    return SCENES_FOLDER + pName + "/";
+}
+
 void znIHogLevel::messagesRegister()
 {
     znCGuiMessageDispatcher::instanceGet()->listenerRegister(znCScreenFade::FADE_OUT_COMPLETE, this);
@@ -75,6 +80,7 @@ bool znIHogLevel::messageProcess(const znCUniqueId& pType, void*)
     if (pType == znCScreenFade::FADE_OUT_COMPLETE)
     {
         stateSave();
+        znCHogCoreMain::instanceGet()->nextScreenEnsure();
         destroy();
     }
     return false;
@@ -97,7 +103,7 @@ void znIHogLevel::postLoadDo() {}
 void znIHogLevel::levelLoad(const std::string& pName)
 {
     mLevelName = pName;
-    mLevelFolder = SCENES_FOLDER + pName + "/";
+    mLevelFolder = folderOfGet(pName);
     const znCResourceName table(mLevelFolder + mLevelName + TABLE_EXTENSION, znCResourceName::GAME_DATA);
     mVariables.fileLoad(table);
     sceneLoad();
@@ -200,14 +206,6 @@ void znIHogLevel::levelQuit()
     znCHogCoreMain::instanceGet()->nextScreenSet(znCHogCoreMain::MAIN_MENU_FILE);
 }
 
-znCSubSceneComponent* znIHogLevel::currentSubSceneGet() const
-{
-    const auto open = std::find_if(mSubScenes.rbegin(), mSubScenes.rend(),
-                                   [](const znCEntity* pEntity) { return pEntity->activeInTreeGet(); });
-    ZN_ASSERT(open != mSubScenes.rend(), "Expected to find an active subscene.\n");
-    return open != mSubScenes.rend() ? (*open)->componentGet<znCSubSceneComponent>() : nullptr;
-}
-
 void znIHogLevel::hintShow(znCEntity* pEntity)
 {
     const znCSubSceneComponent* subScene = currentSubSceneGet();
@@ -222,6 +220,14 @@ void znIHogLevel::hintShow(znCEntity* pEntity)
     const znPoint start = button != nullptr ? button->posRelativeToAncestorGet(parentGet()) : znPoint(0, 0);
     effect->componentAdd<znCHookedLineTrailComponent>()->trailInitialise(start, pEntity->posGet(), HINT_MS, true);
     znCUserSavedData::instanceGet()->s32Set(HINT_FREE_STREAK_KEY, HINT_USED);
+}
+
+znCSubSceneComponent* znIHogLevel::currentSubSceneGet() const
+{
+    const auto open = std::find_if(mSubScenes.rbegin(), mSubScenes.rend(),
+                                   [](const znCEntity* pEntity) { return pEntity->activeInTreeGet(); });
+    ZN_ASSERT(open != mSubScenes.rend(), "Expected to find an active subscene.\n");
+    return open != mSubScenes.rend() ? (*open)->componentGet<znCSubSceneComponent>() : nullptr;
 }
 
 std::string znIHogLevel::nextLevelGet() const

@@ -26,7 +26,8 @@ public:
     // Opens the level of that name from its folder "scenes/" + pName + "/". With a level on the screen it logs
     // "Already created.\n" and nothing more happens.
     static void create(const std::string& pName);
-    static znIHogLevel* levelGet(); // null if none is open
+    static znIHogLevel* levelGet();                           // null if none is open
+    static std::string folderOfGet(const std::string& pName); // of the level of that name, ends in "/"
 
     void messagesRegister() override;
     void messagesDeregister() override;
@@ -42,10 +43,10 @@ public:
     void levelSkip();
     void levelQuit(); // to the main menu
     void levelStateStore();
-
     // Sends sparkles from the hint button to pEntity, which stands in the current sub-scene, and ends the player's row
     // of levels without a hint.
     void hintShow(znCEntity* pEntity);
+
     // The topmost open sub-scene. Null, with "Expected to find an active subscene.\n", if none is open.
     znCSubSceneComponent* currentSubSceneGet() const;
     std::string nextLevelGet() const; // the screen behind this level, empty if the level's table names none
@@ -53,6 +54,7 @@ public:
     const std::string& folderGet() const { return mLevelFolder; }       // ends in "/"
     const std::string& levelNameGet() const { return mLevelName; }
     bool skippedGet() const { return mSkipped; }
+    bool sceneStandsGet() const { return !mSubScenes.empty(); } // false behind a folder that makes no scene
 
     // Steps of levelLoad().
     void subScenesStore();

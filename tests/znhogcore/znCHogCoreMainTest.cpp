@@ -1,8 +1,11 @@
 #include "znhogcore/src/znCHogCoreMain.h"
 
 #include "tests/znhogcore/znCHogTest.h"
+#include "znappcore/src/znCScreenFade.h"
 #include "znappcore/src/znCUserSavedData.h"
 #include "znhogcore/src/znCHogMessageDispatcher.h"
+
+#include <algorithm>
 
 namespace
 {
@@ -84,5 +87,53 @@ TEST_F(znCHogCoreMainTest, beginsWithTheFirstScene)
     znCHogCoreMain::instanceGet()->firstSceneSet();
     frame();
     EXPECT_EQ(level().levelNameGet(), "quay");
+}
+
+// Every way to a screen that can't stand ends in the main menu, with the reason in the log.
+TEST_F(znCHogCoreMainTest, neverLeavesThePlayerBeforeAnEmptyScreen)
+{
+    struct Case
+    {
+        const char* mScreen;
+        const char* mLogged;
+    };
+    const Case cases[] = {
+        {"nosuch", "The screen nosuch can't be opened: scenes/nosuch/coords.txt is missing or makes no scene."},
+        {"empty", "The screen empty can't be opened: scenes/empty/coords.txt is missing or makes no scene."},
+        {"headless", "The screen headless can't be opened: scenes/headless/coords.txt is missing or makes no scene."},
+        {"gui/nosuch.txt", "The screen gui/nosuch.txt can't be opened: gui/nosuch.txt is missing or makes no scene."},
+        {"", "No screen was asked for: the main menu opens."},
+    };
+    constexpr s32 FADE_FRAMES = 2 * 500 / FRAME_MS + 10;
+    mPlatform.mFiles.fileSet("gui/mainmenu/mainmenu.txt", "znCMainMenuGui {\n name = MainMenuGui\n}\n");
+    mPlatform.mFiles.fileSet("gui/newplayer/newplayer.txt", "znCNewPlayerGui {\n name = NewPlayerWindow\n}\n");
+    mPlatform.mFiles.fileSet("gui/messagebox/messagebox.txt",
+                             "znCMessageBoxGui {\n name = Box\n znCTextSpriteComponent {\n  name = "
+                             "MessageBoxMessageText\n  font = \"fonts/test.ttf\"\n }\n}\n");
+    sceneSet("quay", "Background.png,0,0\n");
+    sceneSet("empty", "");
+    sceneSet("headless", "HOT-bell.png,0,0\n");
+    for (const Case& c : cases)
+    {
+        SCOPED_TRACE(c.mScreen);
+        sceneOpen("quay");
+        frame(FADE_FRAMES);
+        user().strSet(znCHogCoreMain::CURRENT_LEVEL_KEY, c.mScreen);
+        znCHogCoreMain::instanceGet()->nextScreenSet(c.mScreen);
+        znCScreenFade::instanceGet()->fadeOut(znCHogCoreMain::SCREEN_FADE_MS);
+        errorsTake();
+        linesTake();
+        frame(FADE_FRAMES);
+        const std::vector<std::string> lines = linesTake();
+        EXPECT_NE(std::find(lines.begin(), lines.end(), c.mLogged), lines.end());
+        errorsTake(); // of the faulty folders themselves
+        EXPECT_EQ(znIHogLevel::levelGet(), nullptr);
+        znINode* menu = znCHogCoreMain::instanceGet()->appDisplayChildFind("MainMenuGui");
+        ASSERT_NE(menu, nullptr);
+        EXPECT_EQ(menu->childFind("Box") != nullptr, *c.mScreen != 0);
+        EXPECT_EQ(user().strGet(znCHogCoreMain::CURRENT_LEVEL_KEY), "") << "Continue must not lead there again";
+        menu->destroy();
+        frame();
+    }
 }
 } // namespace

@@ -51,6 +51,8 @@ public:
                                  " znCSpriteComponent { name = NotificationsGuiBackground }\n"
                                  " znCTextSpriteComponent { name = NotificationsGuiText font = f.ttf fontSize = 20 }\n"
                                  "}\n");
+        // What follows a level behind which no screen was asked for: nothing that stands in the next one's way.
+        mPlatform.mFiles.fileSet("gui/mainmenu/mainmenu.txt", "znCSpriteComponent {\n name = Title\n}\n");
         mPlatform.configSet("s3e", "FullScreen", "0");
         znNGraphics::initialise();
     }

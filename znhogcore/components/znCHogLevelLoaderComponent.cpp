@@ -24,7 +24,6 @@
 
 namespace
 {
-constexpr char COORDS_FILE[] = "coords.txt";
 constexpr char TEXTURE_PAGE[] = "texturePage";
 constexpr char TABLE_EXTENSION[] = ".txt";
 constexpr char PARTICLES_FOLDER[] = "particles/";
@@ -141,12 +140,13 @@ znCEntity* entryRead(std::string_view pEntry, bool pEnded, const std::string& pF
     Placement placement;
     if (const char* fault = placementRead(pEntry, placement))
     {
-        ZN_LOG("%s%s line %d: %s; the entry is left out.\n", pFolder.c_str(), COORDS_FILE, pLine, fault);
+        ZN_LOG("%s%s line %d: %s; the entry is left out.\n", pFolder.c_str(), znCHogLevelLoaderComponent::COORDS_FILE,
+               pLine, fault);
         return nullptr;
     }
     ZN_ASSERT(pEnded, "Expecting coods file in the format 'EntName.png,posX,posY\n' per entry.\n");
     if (!pEnded)
-        ZN_LOG("%s%s line %d has no line end.\n", pFolder.c_str(), COORDS_FILE, pLine);
+        ZN_LOG("%s%s line %d has no line end.\n", pFolder.c_str(), znCHogLevelLoaderComponent::COORDS_FILE, pLine);
     return nameContains(placement.mName, TUTORIAL_MARK) ? nullptr : entityMake(placement, pFolder);
 }
 

@@ -19,6 +19,7 @@ class znCHogLevelLoaderComponent : public znIComponent
 public:
     static constexpr znCUniqueId TYPE{"znCHogLevelLoaderComponent"};
 
+    static constexpr const char* COORDS_FILE = "coords.txt";
     static constexpr std::size_t ENTITIES_MAX = 4000; // of one scene
     static constexpr std::size_t NAME_MAX_BYTES = 255;
 

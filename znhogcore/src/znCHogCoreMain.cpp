@@ -1,16 +1,21 @@
 #include "znhogcore/src/znCHogCoreMain.h"
 
 #include "znappcore/animatingSprite/znCAnimationDataManager.h"
+#include "znappcore/components/gui/znCMessageBoxGui.h"
 #include "znappcore/components/gui/znIGuiComponent.h"
 #include "znappcore/particles/znCParticleDataManager.h"
 #include "znappcore/src/znCAppSettings.h"
 #include "znappcore/src/znCBrushManager.h"
 #include "znappcore/src/znCEntity.h"
+#include "znappcore/src/znCLocalisedStrings.h"
 #include "znappcore/src/znCScreenFade.h"
 #include "znappcore/src/znCUserSavedData.h"
 #include "znappcore/znIAudioManager.h"
+#include "zncore/debug/znIDebug.h"
 #include "zncore/znCResourceName.h"
+#include "zncore/znIFile.h"
 #include "znhogcore/components/gui/znCMainMenuGui.h"
+#include "znhogcore/components/znCHogLevelLoaderComponent.h"
 #include "znhogcore/src/znCCollectionEffectFactory.h"
 #include "znhogcore/src/znCHogComponentFactory.h"
 #include "znhogcore/src/znCHogEntityFactory.h"
@@ -21,6 +26,24 @@ namespace
 {
 constexpr char GUI_FILE_MARK[] = ".txt";
 constexpr std::size_t LEVEL_NAME_SHORT = 3; // no file's name is as short
+constexpr char MISSING_SCREEN_TEXT[] = "missingscreen";
+
+bool guiFileNameGet(const std::string& pScreen)
+{
+    return pScreen.size() > LEVEL_NAME_SHORT && pScreen.find(GUI_FILE_MARK) != std::string::npos;
+}
+
+// The file without which nothing of the screen can be shown.
+std::string screenFileGet(const std::string& pScreen)
+{
+    return guiFileNameGet(pScreen) ? pScreen
+                                   : znIHogLevel::folderOfGet(pScreen) + znCHogLevelLoaderComponent::COORDS_FILE;
+}
+
+bool screenExistsGet(const std::string& pScreen)
+{
+    return znIFile::existsGet(znCResourceName(screenFileGet(pScreen), znCResourceName::GAME_DATA));
+}
 } // namespace
 
 znCHogCoreMain* znCHogCoreMain::instanceGet()
@@ -107,17 +130,50 @@ void znCHogCoreMain::levelStart()
     znCParticleDataManager::instanceGet()->levelDataClear();
     znCAnimationDataManager::instanceGet()->levelDataClear();
     znIAudioManager::instanceGet()->effectsClear();
-    if (mNextScreen.size() > LEVEL_NAME_SHORT && mNextScreen.find(GUI_FILE_MARK) != std::string::npos)
-        guiScreenOpen();
+    if (!screenExistsGet(mNextScreen))
+        missingScreenShow();
+    else if (guiFileNameGet(mNextScreen))
+        guiScreenOpen(mNextScreen);
     else
-        znIHogLevel::create(mNextScreen);
+        levelOpen();
     znCScreenFade::instanceGet()->fadeIn(SCREEN_FADE_MS);
     mNextScreen.clear();
 }
 
-void znCHogCoreMain::guiScreenOpen()
+void znCHogCoreMain::guiScreenOpen(const std::string& pFile)
 {
-    const znCResourceName file(mNextScreen, znCResourceName::GAME_DATA);
+    const znCResourceName file(pFile, znCResourceName::GAME_DATA);
     if (znCEntity* gui = znIGuiComponent::guiCreateFromFile(file, nullptr, true))
         appDisplayChildAdd(gui);
+}
+
+void znCHogCoreMain::levelOpen()
+{
+    znIHogLevel::create(mNextScreen);
+    znIHogLevel* level = znIHogLevel::levelGet();
+    if (level->sceneStandsGet())
+        return;
+    level->destroy();
+    missingScreenShow();
+}
+
+// A player whose game is to go on there gets another choice than to try again for ever.
+void znCHogCoreMain::missingScreenShow()
+{
+    ZN_LOG("The screen %s can't be opened: %s is missing or makes no scene.\n", mNextScreen.c_str(),
+           screenFileGet(mNextScreen).c_str());
+    znCUserSavedData* user = znCUserSavedData::instanceGet();
+    if (user->strGet(CURRENT_LEVEL_KEY) == mNextScreen)
+        user->strSet(CURRENT_LEVEL_KEY, "");
+    guiScreenOpen(MAIN_MENU_FILE);
+    if (znINode* menu = appDisplayChildFind(znCMainMenuGui::NAME))
+        znCMessageBoxGui::messageBoxCreate(menu, znCLocalisedStrings::localisedStringGet(MISSING_SCREEN_TEXT));
+}
+
+void znCHogCoreMain::nextScreenEnsure()
+{
+    if (!mNextScreen.empty())
+        return;
+    ZN_LOG("No screen was asked for: the main menu opens.\n");
+    nextScreenSet(MAIN_MENU_FILE);
 }

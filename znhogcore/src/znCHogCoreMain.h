@@ -7,6 +7,9 @@
 // A screen is a level, or a GUI file if its name contains ".txt". At most one is pending; it opens in the first frame
 // in which neither the main menu nor a level stands any more. Whoever asks for a screen starts the fade at whose end
 // the present one removes itself.
+//
+// The player never stands before an empty screen: a screen whose files are missing gives a log line, and the main menu
+// opens with a message; the same menu follows a screen behind which none was asked for.
 
 #include "znappcore/src/znCAppCoreMain.h"
 
@@ -34,6 +37,8 @@ public:
     void nextScreenAndCurrLevSet(const std::string& pScreen);
     // Starts the player's progress over and makes the first scene of the application's settings the pending screen.
     void firstSceneSet();
+    // Called by a screen that goes away: if none is to follow, that is logged and the main menu does.
+    void nextScreenEnsure();
 
     ~znCHogCoreMain() override = default;
 
@@ -51,7 +56,9 @@ protected:
 
 private:
     void mapRuleApply();
-    void guiScreenOpen();
+    void guiScreenOpen(const std::string& pFile);
+    void levelOpen();
+    void missingScreenShow();
 
     std::string mNextScreen; // empty: none is pending
 };

@@ -3,7 +3,7 @@
 
 // A level that is played: a hidden-object scene or a minigame. It is won by "LevelComplete"; "continueGame" leads on to
 // the next screen and leaves the scene as it was at first, "replayLevel" starts it over. A table that names no next
-// screen is logged, and nothing opens.
+// screen is logged, and the main menu opens.
 
 #include "znhogcore/znIHogLevel.h"
 
