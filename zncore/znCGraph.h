@@ -41,6 +41,8 @@ public:
         return before.mValue + spanMultiply(slope, pTimeMs - before.mTime);
     }
 
+    s32 lastTimeGet() const { return mEntries.empty() ? 0 : mEntries.back().mTime; }
+
 private:
     struct Entry
     {

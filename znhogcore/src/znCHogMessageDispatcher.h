@@ -18,11 +18,17 @@ public:
     static constexpr znCUniqueId CONTINUE_GAME{"continueGame"};      // on to the next screen
     static constexpr znCUniqueId REPLAY_LEVEL{"replayLevel"};        // the same level again
     static constexpr znCUniqueId CLOSE_TOP_SUB_SCENE{"CloseTopSubScene"};
+    static constexpr znCUniqueId ADDED_ENTRY{"AddedEntry"};                 // a list has put an item on show
+    static constexpr znCUniqueId HINT_BUTTON_PRESSED{"HintButtonPressed"};  // consumed by who gave a hint
     static constexpr znCUniqueId SUB_EXIT_BUTTON_SHOW{"SubExitButtonShow"}; // a full-screen sub-scene has opened
     // Payload: std::string.
     static constexpr znCUniqueId CONVERSATION_COMPLETE{"conversationComplete"};          // the conversation's name
     static constexpr znCUniqueId COLLECTION_EFFECT_COMPLETE{"CollectionEffectComplete"}; // the collected node's name
     static constexpr znCUniqueId TASK_COMPLETE{"TaskComplete"};                          // the task's key
+    // Payload: std::string, the name of what must be finished before the level ends. One who adds it reports it.
+    static constexpr znCUniqueId COMPLETION_REQUIREMENT_ADD{"CompletionRequirementAdd"};
+    static constexpr znCUniqueId COMPLETION_REQUIREMENT_MET{"CompletionRequirementMet"};
+    static constexpr znCUniqueId COMPLETION_REQUIREMENT_CLEAR{"CompletionRequirementClear"}; // not met any more
     // Payload: znCEntity, the collected one.
     static constexpr znCUniqueId COLLECTABLE_ENTITY_COLLECTED{"CollectableEntityCollected"};
     // Payload: s32, the sub-scene's index.
