@@ -104,6 +104,17 @@ float znNFonts::displayScaleGet()
     return sLayer != nullptr ? sLayer->mDisplayScale : 1.0f;
 }
 
+void znNFonts::textScaleSet(float pScale)
+{
+    if (sLayer != nullptr)
+        sLayer->mTextScale = pScale > 1.0f ? std::min(pScale, TEXT_SCALE_MAX) : 1.0f;
+}
+
+float znNFonts::textScaleGet()
+{
+    return sLayer != nullptr ? sLayer->mTextScale : 1.0f;
+}
+
 const znCGraphicsTexture* znNFonts::glyphTextureGet()
 {
     return sLayer != nullptr ? sLayer->mStore.textureGet() : nullptr;

@@ -58,12 +58,15 @@ const znCGlyphRun* znCTextRenderData::glyphRunGet(s32 pIndex) const
 
 void znCTextRenderData::glyphsRefresh()
 {
+    if (mTextScale != znNFonts::textScaleGet())
+        layoutUpdate();
     if (mPrepared.refresh())
         verticesBuild();
 }
 
 void znCTextRenderData::layoutUpdate()
 {
+    mTextScale = znNFonts::textScaleGet();
     const znCGraphicsFont* font = mFont != nullptr ? static_cast<const znCFont*>(mFont)->graphicsFontGet() : nullptr;
     if (font == nullptr)
         return;

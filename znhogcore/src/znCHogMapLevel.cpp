@@ -57,8 +57,8 @@ bool maskGet(const std::string& pBaseName)
 template <class T>
 void popUpCreate(znINode* pMap, const std::string& pTarget)
 {
-    znCEntity* gui = znIGuiComponent::guiCreateFromFile(znCResourceName(T::FILE_NAME, znCResourceName::GAME_DATA),
-                                                        pMap, true);
+    znCEntity* gui =
+        znIGuiComponent::guiCreateFromFile(znCResourceName(T::FILE_NAME, znCResourceName::GAME_DATA), pMap, true);
     if (auto* popUp = gui != nullptr ? gui->componentGet<T>() : nullptr)
         popUp->populate(pTarget);
 }
@@ -129,8 +129,7 @@ void znCHogMapLevel::spritesSet()
 
 void znCHogMapLevel::placeSet(znCEntity* pEntity, const std::string& pScene)
 {
-    const bool open =
-        mRevealAll || znCHogUserSavedData::instanceGet()->levelVisitedGet(pScene) || pScene == offerGet();
+    const bool open = mRevealAll || znCHogUserSavedData::instanceGet()->levelVisitedGet(pScene) || pScene == offerGet();
     pEntity->activeSet(open);
     pEntity->componentGet<znCNavigateComponent>()->navigateActiveSet(open);
     mRollOvers.push_back({znCLocalisedStrings::localisedStringGet(pScene + CAPTION), pEntity});
