@@ -14,9 +14,13 @@ public:
     static constexpr znCUniqueId LEVEL_LOAD_COMP{"levelLoadComp"};   // the level stands and is placed
     static constexpr znCUniqueId RESET_LEVEL{"resetLevel"};          // clear yourself
     static constexpr znCUniqueId POST_RESET_LEVEL{"postResetLevel"}; // all collectables are clear
-    static constexpr znCUniqueId LEVEL_COMPLETE{"LevelComplete"};    // all requirements are met
-    static constexpr znCUniqueId CONTINUE_GAME{"continueGame"};      // on to the next screen
-    static constexpr znCUniqueId REPLAY_LEVEL{"replayLevel"};        // the same level again
+    static constexpr znCUniqueId LEVEL_COMPLETE{"LevelComplete"};    // won: nothing more is to come in it
+    // All requirements are met, and LEVEL_COMPLETE follows: behind the congratulations, at the player's word, or both.
+    static constexpr znCUniqueId LEVEL_COMPLETE_CONGRATS{"LevelCompleteCongrats"};
+    static constexpr znCUniqueId LEVEL_COMPLETE_WAITING{"LevelCompleteWaiting"};
+    static constexpr znCUniqueId LEVEL_COMPLETE_WAITING_CONGRATS{"LevelCompleteWaitingCongrats"};
+    static constexpr znCUniqueId CONTINUE_GAME{"continueGame"}; // on to the next screen
+    static constexpr znCUniqueId REPLAY_LEVEL{"replayLevel"};   // the same level again
     static constexpr znCUniqueId CLOSE_TOP_SUB_SCENE{"CloseTopSubScene"};
     static constexpr znCUniqueId ADDED_ENTRY{"AddedEntry"};                 // a list has put an item on show
     static constexpr znCUniqueId HINT_BUTTON_PRESSED{"HintButtonPressed"};  // consumed by who gave a hint
@@ -31,6 +35,8 @@ public:
     static constexpr znCUniqueId COMPLETION_REQUIREMENT_CLEAR{"CompletionRequirementClear"}; // not met any more
     // Payload: znCEntity, the collected one.
     static constexpr znCUniqueId COLLECTABLE_ENTITY_COLLECTED{"CollectableEntityCollected"};
+    // Payload: znCScoreCollectionEffectData, the points that have arrived at the player's score.
+    static constexpr znCUniqueId SCORE_COLLECTION_EFFECT_COMPLETE{"scoreCollectionEffectComplete"};
     // Payload: s32, the sub-scene's index.
     static constexpr znCUniqueId OPEN_SUB_SCENE{"OpenSubScene"};
 
