@@ -165,4 +165,5 @@ def main():
     lamp()
 
 
-main()
+if __name__ == "__main__":
+    main()
