@@ -1,8 +1,12 @@
 #include "znhogcore/src/znCHogComponentFactory.h"
 
+#include "znhogcore/components/gui/znCDropOffPickListEntryGui.h"
 #include "znhogcore/components/gui/znCMainMenuGui.h"
 #include "znhogcore/components/gui/znCNewPlayerGui.h"
 #include "znhogcore/components/gui/znCOptionsGui.h"
+#include "znhogcore/components/gui/znCPickListGui.h"
+#include "znhogcore/components/gui/znCSilhouettePickListEntryGui.h"
+#include "znhogcore/components/gui/znCSingleItemPickListEntryGui.h"
 #include "znhogcore/components/znCAnimCollectionEffectComponent.h"
 #include "znhogcore/components/znCBonusComponent.h"
 #include "znhogcore/components/znCBonusListComponent.h"
@@ -29,9 +33,13 @@ void znCHogComponentFactory::create()
 void znCHogComponentFactory::componentsRegister()
 {
     znCComponentFactory::componentsRegister();
+    componentRegister<znCDropOffPickListEntryGui>();
     componentRegister<znCMainMenuGui>();
     componentRegister<znCNewPlayerGui>();
     componentRegister<znCOptionsGui>();
+    componentRegister<znCPickListGui>();
+    componentRegister<znCSilhouettePickListEntryGui>();
+    componentRegister<znCSingleItemPickListEntryGui>();
     componentRegister<znCAnimCollectionEffectComponent>();
     componentRegister<znCBonusComponent>();
     componentRegister<znCBonusListComponent>();
