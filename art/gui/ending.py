@@ -60,9 +60,10 @@ def xml(name, inner):
         out.write(f'<sequence name="{os.path.basename(name)}">\n{inner}</sequence>\n')
 
 
-def firework():
-    """A burst in twelve steps, white, for tinting: sparks that fly out, slow down, sink and twinkle out."""
-    random = np.random.default_rng(5)
+def firework(name, colour, seed):
+    """A burst in twelve steps: sparks that fly out, slow down, sink and twinkle out. A particle plays it once, then its
+    place in the pool serves the next: the animation goes round in just the time that a particle lives."""
+    random = np.random.default_rng(seed)
     size, big, count, steps = 160, 3, 90, 12
     angle = random.uniform(0, 2 * math.pi, count)
     reach = np.where(np.arange(count) % 3 == 0, random.uniform(0.3, 0.62, count), random.uniform(0.8, 1.0, count))
@@ -84,10 +85,10 @@ def firework():
         core = np.exp(-((np.hypot(*np.meshgrid(*(np.arange(size * big) - size * big / 2,) * 2)) / (26 * big)) ** 2)) * max(0, 1 - t * 3.2)
         alpha = np.clip((near + far) / 255 + core, 0, 1)
         small = Image.fromarray((alpha * 255).astype(np.uint8)).resize((size, size), Image.LANCZOS)
-        frame = Image.new("RGBA", (size, size), (255, 255, 255, 0))
-        frame.putalpha(small)
-        frames.append(frame)
-    strip("gui/welldone/firework", frames, 75, (size // 2, size // 2), loop=False, colours=0)
+        level = np.asarray(small, float)[..., None] / 255
+        white = np.clip(level * 1.5 - 0.6, 0, 1) * (1 - 0.7 * t)
+        frames.append(Image.fromarray(np.dstack([np.array(colour) * (1 - white) + 255 * white, level * 255]).astype(np.uint8)))
+    strip(f"gui/welldone/{name}", frames, 75, (size // 2, size // 2), colours=0)
 
 
 def letter():
@@ -121,28 +122,33 @@ def lamp():
         a = i * math.pi / 6
         body += stud(150 + 131 * math.cos(a), 150 + 131 * math.sin(a), 4.6, i * 37)
     pack(raster(300, 300, body, defs), "gui/welldone/lamp.png")
-    w, h = 620, 140
+    beam()
+
+
+def beam():
+    """Two beams in opposite directions; half a turn of them makes the whole."""
+    w, h, steps = 1400, 220, 40
     y, x = np.mgrid[0:h, 0:w]
-    along = x / w
-    across = (y - (h - 1) / 2) / (3 + along * (h / 2 - 4))
-    alpha = np.exp(-(across * 1.6) ** 2) * (1 - along) ** 1.3 * np.clip(x / 14, 0, 1) * 0.85 * (np.abs(across) < 1.35)
+    along = np.abs(x - (w - 1) / 2) / (w / 2)
+    across = (y - (h - 1) / 2) / (5 + along * (h / 2 - 6))
     picture = np.zeros((h, w, 4), np.uint8)
-    picture[..., :3] = (255, 238, 176)
-    picture[..., 3] = alpha * 255
+    picture[..., :3] = (255, 240, 186)
+    picture[..., 3] = 255 * np.exp(-(across * 1.5) ** 2) * np.clip(1 - along, 0, 1) ** 0.9 * np.clip((1 - np.abs(across)) * 3, 0, 1) * 0.95
     pack(Image.fromarray(picture), "gui/welldone/beam.png", 0)
-    steps, frames, keys = 48, "", ""
+    frames, keys = "", ""
     for step in range(steps):
-        a = 2 * math.pi * step / steps
-        c, s = math.cos(a), math.sin(a)
-        frames += f'    <frame x="0" y="0" w="{w}" h="{h}" regx="0" regy="{h // 2}" xform="{c:.4f} {s:.4f} {-s:.4f} {c:.4f} 0 0"/>\n'
+        c, s = math.cos(math.pi * step / steps), math.sin(math.pi * step / steps)
+        frames += f'    <frame x="0" y="0" w="{w}" h="{h}" regx="{w // 2}" regy="{h // 2}" xform="{c:.4f} {s:.4f} {-s:.4f} {c:.4f} 0 0"/>\n'
         keys += f'    <key frame="{step + 1}"/>\n'
-    xml("gui/welldone/beam", f'  <framelist>\n{frames}  </framelist>\n  <timeline name="main" frametime="40">\n{keys}    <key jumpto="0"/>\n  </timeline>\n')
+    xml("gui/welldone/beam", f'  <framelist>\n{frames}  </framelist>\n  <timeline name="main" frametime="32">\n{keys}    <key jumpto="0"/>\n  </timeline>\n')
 
 
 def main():
     log_page()
     ribbon()
-    firework()
+    firework("firework_gold", (255, 190, 80), 5)
+    firework("firework_red", (255, 92, 70), 6)
+    firework("firework_blue", (96, 186, 255), 7)
     letter()
     lamp()
 
