@@ -3,7 +3,7 @@
 import math
 
 from kit import INK, plate, rim, rope_points, save, sheet, stud
-from panels import rounded, seal
+from panels import plaque, rounded, seal
 
 WIDTH, HEIGHT = 1366, 124
 WELLS = (WIDTH // 2 - 450, WIDTH // 2 + 450)
@@ -215,12 +215,30 @@ def menu():
         save(f"gui/ingame/menu{state}.png", 64, 64, body)
 
 
+def title_plaque():
+    """The name of a puzzle, on enamel, hung from the upper edge by two ropes."""
+    w, h = 420, 60
+    body = ""
+    for x in (66, w - 66):
+        body += f'<g filter="url(#shadow)"><path d="M{x} 0V20" stroke="#4a2f12" stroke-width="7"/>{rope_points([(x, i * 6, math.pi / 2) for i in range(4)], 9)}</g>'
+    save("gui/ingame/title_plaque.png", w, h, body + plaque(10, 8, w - 22, h - 18))
+
+
+def rose():
+    """A compass rose for a round place without a button."""
+    body = '<g transform="translate(41,41)"><circle r="33" fill="none" stroke="#c79a4a" stroke-width="1.4" opacity=".8"/>'
+    for turn, reach, half in [(45 + 90 * i, 21, 5) for i in range(4)] + [(90 * i, 34, 7) for i in range(4)]:
+        body += f'<g transform="rotate({turn})"><path d="M0 -{reach}L{half} -{half}L0 0Z" fill="#8a5a1c" stroke="{INK}" stroke-width=".8"/><path d="M0 -{reach}L-{half} -{half}L0 0Z" fill="#f3d58c" stroke="{INK}" stroke-width=".8"/></g>'
+    body += f'<circle r="4" fill="url(#stud)" stroke="{INK}" stroke-width=".8"/></g>'
+    save("gui/ingame/rose.png", 82, 82, body)
+
+
 def main():
     board()
     porthole("hint", "blue", lighthouse)
     porthole("ghost", "green", elmos_fire)
     porthole("skip", "violet", full_steam)
-    for piece in (badge, label, caption, coin, basket, mailbag, tick, done, lost_board, returned, menu):
+    for piece in (badge, label, caption, coin, basket, mailbag, tick, done, lost_board, returned, title_plaque, rose, menu):
         piece()
 
 
