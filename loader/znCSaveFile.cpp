@@ -41,16 +41,27 @@ bool znCSaveFile::contentFlush()
     return mError == 0;
 }
 
-void znCSaveFile::olderKeep() const
+// True if the file to be replaced has a second name now.
+bool znCSaveFile::olderHold() const
 {
     std::error_code error;
     const auto size = std::filesystem::file_size(mPath, error);
     if (error || size == 0)
-        return; // an empty file is no generation worth keeping: the one kept so far stays
-    const std::string older = znCSaveFolder::olderPath(mPath);
-    unlink(older.c_str());
-    if (link(mPath.c_str(), older.c_str()) != 0) // a file system without links; a reader finds the older one meanwhile
-        std::rename(mPath.c_str(), older.c_str());
+        return false; // an empty file is no generation worth keeping: the one kept so far stays
+    const std::string held = znCSaveFolder::heldPath(mPath);
+    unlink(held.c_str());
+    if (link(mPath.c_str(), held.c_str()) == 0)
+        return true;
+    // A file system without links; a reader finds the older one meanwhile.
+    std::rename(mPath.c_str(), znCSaveFolder::olderPath(mPath).c_str());
+    return false;
+}
+
+void znCSaveFile::olderRelease(bool pReplaced) const
+{
+    const std::string held = znCSaveFolder::heldPath(mPath);
+    if (!pReplaced || std::rename(held.c_str(), znCSaveFolder::olderPath(mPath).c_str()) != 0)
+        unlink(held.c_str());
 }
 
 bool znCSaveFile::appear() const
@@ -64,9 +75,11 @@ bool znCSaveFile::finish()
     bool finished = contentFlush();
     if (finished)
     {
-        olderKeep();
+        const bool held = olderHold();
         finished = appear();
         mError = finished ? 0 : errno;
+        if (held)
+            olderRelease(finished);
     }
     if (finished)
     {

@@ -5,7 +5,8 @@
 #include "loader/znNStdio.h"
 
 // A file of the save folder that is being written. At every moment, also if the machine stops, its name or the
-// generation before it holds a whole file: the new one appears only when it is on the disk.
+// generation before it holds a whole file: the new one appears only when it is on the disk. And the generation before
+// is given up for the one that is replaced only behind that, so that a damaged file never stands alone.
 class znCSaveFile : public s3eFile
 {
 public:
@@ -22,7 +23,8 @@ public:
 
 private:
     bool contentFlush();
-    void olderKeep() const;
+    bool olderHold() const;
+    void olderRelease(bool pReplaced) const;
     bool appear() const;
 
     znNStdio::File mUnfinished; // null: finished or given up

@@ -25,11 +25,13 @@ bool isOwn(const std::string& pName)
 pid_t writerGet(const std::string& pFileName)
 {
     const size_t mark = pFileName.find(OWN_MARK);
-    pid_t writer = 0;
-    if (mark == std::string::npos || !znNTextFile::numberParse(std::string_view(pFileName).substr(mark + 1), 1,
-                                                               std::numeric_limits<pid_t>::max(), writer))
+    if (mark == std::string::npos)
         return 0;
-    return writer;
+    std::string_view number = std::string_view(pFileName).substr(mark + 1);
+    if (number.ends_with(OWN_MARK))
+        number.remove_suffix(1);
+    pid_t writer = 0;
+    return znNTextFile::numberParse(number, 1, std::numeric_limits<pid_t>::max(), writer) ? writer : 0;
 }
 
 // Made before the base looks at it.
@@ -72,8 +74,15 @@ bool znCSaveFolder::writePathGet(const std::string& pName, fs::path& pPath) cons
 
 bool znCSaveFolder::readPathGet(const std::string& pName, fs::path& pPath, bool& pIsOlder) const
 {
-    if (!writePathGet(pName, pPath))
+    const bool olderWanted = pName.ends_with(OWN_MARK);
+    if (!writePathGet(olderWanted ? pName.substr(0, pName.size() - 1) : pName, pPath))
         return false;
+    if (olderWanted)
+    {
+        pPath = olderPath(pPath);
+        pIsOlder = false;
+        return true;
+    }
     pIsOlder = pathSizeGet(pPath) <= 0 && pathSizeGet(olderPath(pPath)) > 0;
     if (pIsOlder)
         pPath = olderPath(pPath);
@@ -125,6 +134,11 @@ fs::path znCSaveFolder::olderPath(const fs::path& pPath)
 fs::path znCSaveFolder::unfinishedPath(const fs::path& pPath)
 {
     return pPath.string() + OWN_MARK + std::to_string(getpid());
+}
+
+fs::path znCSaveFolder::heldPath(const fs::path& pPath)
+{
+    return unfinishedPath(pPath).string() + OWN_MARK;
 }
 
 bool znCSaveFolder::entriesFlush(const fs::path& pFolder)

@@ -3,9 +3,10 @@
 
 #include "loader/znCFolder.h"
 
-// The writable folder, with two generations of each file: FILE as written last, and FILE~, the one before it. While
-// FILE is being written it is FILE~ and the process's number. Names with a "~" are the folder's own: nobody else may
-// use them, and lists don't show them.
+// The writable folder, with two generations of each file: FILE as written last, and FILE~, the one before it, which can
+// be read under that name too. While FILE is being written it is FILE~ and the process's number, and the generation
+// that it is about to replace is held under that name with another "~". Names with a "~" are the folder's own: nobody
+// else may write them, and lists don't show them.
 class znCSaveFolder : public znCFolder
 {
 public:
@@ -22,6 +23,7 @@ public:
 
     static std::filesystem::path olderPath(const std::filesystem::path& pPath);
     static std::filesystem::path unfinishedPath(const std::filesystem::path& pPath);
+    static std::filesystem::path heldPath(const std::filesystem::path& pPath);
     // Sees to it that the folder's own entries are on the disk.
     static bool entriesFlush(const std::filesystem::path& pFolder);
 

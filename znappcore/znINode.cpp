@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstring>
 #include <limits>
 #include <memory>
 #include <numbers>
@@ -17,6 +18,9 @@ namespace
 constexpr float PI = std::numbers::pi_v<float>;
 constexpr float TWO_PI = 2.0f * PI;
 constexpr std::size_t KEY_DIGITS = 8;
+// What ends a field, a section or a value of the player's data; in saved texts as ESCAPE and two hexadecimal digits.
+constexpr char ESCAPED[] = ",{}\"%";
+constexpr char ESCAPE = '%';
 
 struct NewNode
 {
@@ -55,6 +59,21 @@ bool fieldCut(std::string& pIn, std::string& pField)
     pField = pIn.substr(0, comma);
     pIn.erase(0, comma == std::string::npos ? comma : comma + 1);
     return comma != std::string::npos;
+}
+
+std::string unescapedGet(const std::string& pText)
+{
+    std::string text;
+    for (std::size_t i = 0; i < pText.size(); ++i)
+    {
+        unsigned value = 0;
+        const char* digits = pText.data() + i + 1;
+        const bool escaped = pText[i] == ESCAPE && i + 2 < pText.size() &&
+                             std::from_chars(digits, digits + 2, value, 16).ptr == digits + 2;
+        text += escaped ? static_cast<char>(value) : pText[i];
+        i += escaped ? 2 : 0;
+    }
+    return text;
 }
 
 s32 s32FromText(const std::string& pText)
@@ -592,7 +611,19 @@ void znINode::boolSave(std::string& pOut, bool pValue)
 
 void znINode::strSave(std::string& pOut, const std::string& pValue)
 {
-    pOut += pValue;
+    constexpr char DIGITS[] = "0123456789ABCDEF";
+    for (const char c : pValue)
+    {
+        if (std::strchr(ESCAPED, c) == nullptr || c == '\0')
+        {
+            pOut += c;
+            continue;
+        }
+        const auto byte = static_cast<unsigned char>(c);
+        pOut += ESCAPE;
+        pOut += DIGITS[byte >> 4];
+        pOut += DIGITS[byte & 15];
+    }
     pOut += ',';
 }
 
@@ -623,7 +654,7 @@ std::string znINode::strLoad(std::string& pIn)
     std::string field;
     const bool found = fieldCut(pIn, field);
     ZN_ASSERT(found, "Expected to find a ',' in the saved data.\n");
-    return field;
+    return unescapedGet(field);
 }
 
 znPoint znINode::posLoad(std::string& pIn)

@@ -113,7 +113,7 @@ public:
     std::string myLoadStringGet(std::string& pIn);
 
     // The fields of the save text, for mySave() and myLoad() of nodes and components: a loader cuts its field off the
-    // front of the text. Texts must not hold ',', '{' or '}'.
+    // front of the text. Texts may hold anything; ',', '{', '}', '"' and '%' stand there as '%' and two digits.
     static void s32Save(std::string& pOut, s32 pValue);
     static void boolSave(std::string& pOut, bool pValue);
     static void strSave(std::string& pOut, const std::string& pValue);

@@ -7,18 +7,18 @@
 #include "znappcore/src/znCGuiMessageDispatcher.h"
 #include "znappcore/src/znCLocalisedStrings.h"
 #include "znappcore/src/znCScreenFade.h"
-#include "znappcore/src/znCUserSavedData.h"
 #include "znappcore/znCEmptyMessageData.h"
 #include "znappcore/znIAudioManager.h"
 #include "zncore/debug/znIDebug.h"
 #include "zncore/znCResourceName.h"
 #include "zncore/znIFile.h"
-#include "zncore/znNCoreUtils.h"
+#include "znhogcore/components/gui/znCPickListGui.h"
 #include "znhogcore/components/znCHogLevelLoaderComponent.h"
 #include "znhogcore/components/znCSubSceneComponent.h"
 #include "znhogcore/src/znCHogCoreMain.h"
 #include "znhogcore/src/znCHogLevel.h"
 #include "znhogcore/src/znCHogMessageDispatcher.h"
+#include "znhogcore/src/znCHogUserSavedData.h"
 
 #include <algorithm>
 
@@ -31,8 +31,9 @@ constexpr char MUSIC_KEY[] = "music";
 constexpr char AMBIENT_KEY[] = "ambient";
 constexpr char GUI_KEY[] = "GUI";
 constexpr char HELP_TEXT_KEY[] = "helpText";
-constexpr char GUI_FILE[] = "gui/hogGui/hogGui.txt";     // of a level that names none
-constexpr char PLAY_TIME_KEY[] = "time";                 // of the player's data: milliseconds in all levels
+constexpr char GUI_FILE[] = "gui/hogGui/hogGui.txt"; // of a level that names none
+constexpr char NUMBER_OF_ITEMS_KEY[] = "numHogItems";
+constexpr char PICK_LIST_NAME[] = "hogPickList";         // of the main list in the level's GUI
 constexpr char HELP_TEXT_NAME[] = "GUIMinigameHelpText"; // of a text in the level's GUI
 constexpr s32 PLACING_STEP_MS = 1;
 constexpr char HINT_EFFECT_NAME[] = "HintEffect";
@@ -111,8 +112,9 @@ void znIHogLevel::levelLoad(const std::string& pName)
     levelInitialise();
     guiCreate();
     savedStateLoad();
+    guiInit();
     miniGameHelpSet();
-    znCUserSavedData::instanceGet()->strSet(znCHogCoreMain::CURRENT_LEVEL_KEY, mLevelName);
+    znCHogUserSavedData::instanceGet()->currentLevelSet(mLevelName);
     // Everything is placed before anyone hears that the level stands.
     parentGet()->treeUpdate(PLACING_STEP_MS);
     znCHogMessageDispatcher::instanceGet()->messageSend(znCHogMessageDispatcher::LEVEL_LOAD_COMP,
@@ -161,10 +163,22 @@ void znIHogLevel::guiCreate()
 
 void znIHogLevel::savedStateLoad()
 {
-    std::string state = znCUserSavedData::instanceGet()->strGet(SAVED_STATE_KEY + mLevelName);
+    std::string state = znCHogUserSavedData::instanceGet()->levelStateGet(mLevelName);
     if (!state.empty())
         treeLoad(state);
     postLoadDo();
+}
+
+void znIHogLevel::guiInit()
+{
+    const auto* entity = dynamic_cast<znCEntity*>(childFind(PICK_LIST_NAME));
+    const s32 items = mVariables.s32Get(NUMBER_OF_ITEMS_KEY);
+    if (entity == nullptr || items <= 0)
+        return;
+    auto* list = entity->componentGet<znCPickListGui>();
+    ZN_ASSERT(list != nullptr, "Expecting a PickListGui component.\n");
+    if (list != nullptr)
+        list->totalSet(items);
 }
 
 void znIHogLevel::miniGameHelpSet()
@@ -183,9 +197,10 @@ void znIHogLevel::stateSave()
 {
     std::string state;
     treeSave(state);
-    znCUserSavedData* user = znCUserSavedData::instanceGet();
-    user->strSet(SAVED_STATE_KEY + mLevelName, state);
-    user->s32Set(PLAY_TIME_KEY, znNCoreUtils::s32Saturate(s64(user->s32Get(PLAY_TIME_KEY)) + mTimePlayedMs));
+    znCHogUserSavedData* user = znCHogUserSavedData::instanceGet();
+    user->levelStateSet(mLevelName, state);
+    user->playTimeAdd(mTimePlayedMs - mTimeStoredMs);
+    mTimeStoredMs = mTimePlayedMs;
 }
 
 void znIHogLevel::levelStateStore()
@@ -219,7 +234,7 @@ void znIHogLevel::hintShow(znCEntity* pEntity)
     // A GUI without the button has another way to ask for a hint: it comes from the middle of the screen then.
     const znPoint start = button != nullptr ? button->posRelativeToAncestorGet(parentGet()) : znPoint(0, 0);
     effect->componentAdd<znCHookedLineTrailComponent>()->trailInitialise(start, pEntity->posGet(), HINT_MS, true);
-    znCUserSavedData::instanceGet()->s32Set(HINT_FREE_STREAK_KEY, HINT_USED);
+    znCHogUserSavedData::instanceGet()->s32Set(znCHogUserSavedData::HINT_FREE_STREAK, znCHogUserSavedData::HINT_USED);
 }
 
 znCSubSceneComponent* znIHogLevel::currentSubSceneGet() const

@@ -15,11 +15,6 @@ class znIHogLevel : public znIMessageListenerEntity
 {
 public:
     static constexpr const char* NAME = "HogLevel";
-    // Key of the player's data: the stored state of the level whose name stands behind it.
-    static constexpr const char* SAVED_STATE_KEY = "LevDat:";
-    // Of the player's data: levels finished in a row without a hint, HINT_USED from a hint to the end of its level.
-    static constexpr const char* HINT_FREE_STREAK_KEY = "succesiveHintFreeLevel";
-    static constexpr s32 HINT_USED = -1;
     static constexpr const char* HINT_BUTTON_NAME = "gameGuiHintButton";
     static constexpr const char* NEXT_LEVEL_KEY = "ACT1NextLev"; // of the level's table: the screen behind it
 
@@ -58,6 +53,8 @@ public:
 
     // Steps of levelLoad().
     void subScenesStore();
+    // The table's "numHogItems", if above 0, is the total of the list named "hogPickList", whatever its GUI file says.
+    void guiInit();
     void miniGameHelpSet();
 
 protected:
@@ -70,6 +67,7 @@ protected:
     std::string mLevelFolder;
     znCVariableTable mVariables;
     s32 mTimePlayedMs = 0; // in this opening of the level
+    s32 mTimeStoredMs = 0; // the part of it that the player's data has got
     bool mSkipped = false;
 
 private:

@@ -88,28 +88,11 @@ def notification():
     save("gui/notificationsgui/background.png", w, h, body)
 
 
-def list_panel():
-    """The board along the lower edge of a scene: paper for the words, a round place at either end."""
-    w, h = 1024, 124
-    body = f'<g filter="url(#shadow)"><rect x="4" y="4" width="{w - 10}" height="{h - 10}" rx="14" fill="{INK}"/></g><clipPath id="wb"><rect x="4" y="4" width="{w - 10}" height="{h - 10}" rx="14"/></clipPath><g clip-path="url(#wb)">'
-    for y in (2, 62):
-        body += f'<rect x="0" y="{y}" width="{w}" height="60" fill="#000" filter="url(#wood)"/><path d="M0 {y + 59}H{w}" stroke="#120802" stroke-width="2.5" opacity=".8"/>'
-    body += "</g>" + rim(rounded(7, 7, w - 16, h - 16, 12), 5.4)
-    body += rope_ring(146, 19, w - 294, h - 40, 15, 10) + sheet(156, 29, w - 314, h - 60, 5)
-    for x in (77, w - 79):
-        body += f'<circle cx="{x}" cy="61" r="48" fill="{INK}" opacity=".6"/><circle cx="{x}" cy="61" r="44" fill="url(#brass)" stroke="{INK}" stroke-width="1.5"/><circle cx="{x}" cy="61" r="37" fill="url(#enameldown)" stroke="#3c2408" stroke-width="2"/>'
-    for x in (19, w - 21):
-        for y in (19, h - 21):
-            body += stud(x, y, 5, (x * 7 + y * 13) % 180)
-    save("gui/ingame/list_panel.png", w, h, body)
-
-
 def main():
     message()
     confirm()
     options()
     notification()
-    list_panel()
 
 
 if __name__ == "__main__":

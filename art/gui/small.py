@@ -1,4 +1,4 @@
-"""What is small and moves: cursor, touch mask, hint button, particles, markers, gull, lamp. Animations get their XML here,
+"""What is small and moves: cursor, touch mask, particles, markers, gull, lamp. Animations get their XML here,
 since it says where in the strip each frame lies."""
 
 import math
@@ -156,28 +156,6 @@ def lamp():
     strip("gui/title/lamp_glow", frames, 130, (64, 64), colours=0)
 
 
-def hint():
-    """A porthole with a lighthouse in it, for one end of the list's board."""
-    for state in ("", "_over", "_down", "_disabled"):
-        off, down, over = state == "_disabled", state == "_down", state == "_over"
-        metal = "tin" if off else "brassdown" if down else "brassbright" if over else "brass"
-        sky = ("#8a949a", "#5a656c", "#343c42") if off else ("#3d6f88", "#1f506e", "#0b2a40") if down else ("#b9ecfb", "#3f9cc6", "#134a6c") if over else ("#8fd0e6", "#2b80aa", "#0e344e")
-        defs = (f'<radialGradient id="sky" cx=".5" cy=".4" r=".75"><stop offset="0" stop-color="{sky[0]}"/><stop offset=".55" stop-color="{sky[1]}"/><stop offset="1" stop-color="{sky[2]}"/></radialGradient>'
-                '<linearGradient id="beam" x1="0" x2="1" y1="0" y2="0"><stop offset="0" stop-color="#fff2a8" stop-opacity=".95"/><stop offset="1" stop-color="#fff2a8" stop-opacity="0"/></linearGradient><clipPath id="c"><circle cx="48" cy="47" r="30"/></clipPath>')
-        body = f'<g filter="url(#shadow)"><circle cx="48" cy="47" r="43" fill="{INK}"/></g><circle cx="48" cy="47" r="42" fill="url(#{metal})" stroke="{INK}" stroke-width="1.6"/><circle cx="48" cy="47" r="35.5" fill="none" stroke="#3c2408" stroke-width="1.6" opacity=".7"/>'
-        for i in range(8):
-            a = i * math.pi / 4 + math.pi / 8
-            body += f'<circle cx="{48 + 38.6 * math.cos(a):.1f}" cy="{47 + 38.6 * math.sin(a):.1f}" r="2.4" fill="url(#{"tin" if off else "stud"})" stroke="#3c2408" stroke-width=".7"/>'
-        body += '<circle cx="48" cy="47" r="32.5" fill="#241404"/><circle cx="48" cy="47" r="30" fill="url(#sky)"/><g clip-path="url(#c)">'
-        if not off:
-            body += f'<path d="M50 36L92 19V50Z" fill="url(#beam)" opacity="{.6 if down else 1}"/><path d="M50 36L92 25V46Z" fill="url(#beam)" opacity=".55" transform="translate(96,0) scale(-1,1)"/>'
-        body += '<path d="M16 71Q27 66 36 70T56 70T84 69V92H12Z" fill="#0a2233" opacity=".88"/><path d="M35 71Q40 65 48 65Q58 65 62 71Z" fill="#3a332c"/><path d="M42.500 67L44.500 41H51.500L53.500 67Z" fill="#f3ead6"/>'
-        stripe = "#77706a" if off else "#b5281c"
-        body += f'<path d="M43.300 57H52.700L52.200 51H43.800ZM44.200 47H51.900L51.500 42H44.500Z" fill="{stripe}"/><rect x="42.5" y="39" width="11" height="2.4" fill="#22201e"/><rect x="44.5" y="32" width="7" height="7" fill="{"#9aa0a2" if off else "#fff3a6"}" stroke="#22201e" stroke-width="1.1"/><path d="M43 32.500L48 26.500L53 32.500Z" fill="{"#57524e" if off else "#8e2017"}"/></g>'
-        body += f'<ellipse cx="45" cy="32" rx="22" ry="12" fill="url(#{"glossdown" if down else "gloss"})" opacity=".75"/>'
-        save(f"gui/ingame/hint{state}.png", 96, 96, body, defs)
-
-
 def main():
     cursor()
     touch_mask()
@@ -185,7 +163,7 @@ def main():
     markers()
     gull()
     lamp()
-    hint()
 
 
-main()
+if __name__ == "__main__":
+    main()

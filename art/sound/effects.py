@@ -70,8 +70,42 @@ def page():
     return reverberate(out, room(0.3, RANDOM, 5000), 0.10)
 
 
+def litter():
+    """Something light falls into a wicker basket: a rustle, the creak of the weave, a small bright note above."""
+    out = np.zeros((samples(0.9), 2))
+    put(out, stereo(noise(0.16, 900, 5200) * hump(0.16, 0.02)), 0, 0.4)
+    for at in np.sort(RANDOM.uniform(0.02, 0.22, 14)):
+        put(out, stereo(noise(0.008, 1400, 6000) * hump(0.008, 0.001), RANDOM.uniform(-0.4, 0.4)), at, RANDOM.uniform(0.15, 0.5))
+    put(out, stereo(struck(0.2, [(196, 1.0, 0.12), (305, 0.5, 0.09), (520, 0.25, 0.06)], 0.002)), 0.03, 0.9)
+    put(out, stereo(bell(1567.98, 0.5, 0.5)), 0.13, 0.34)
+    return reverberate(out, room(0.4, RANDOM, 5000), 0.16)
+
+
+def returned():
+    """A rising run on a small harp: what was lost goes home."""
+    out = np.zeros((samples(1.7), 2))
+    for step, frequency in enumerate((783.99, 987.77, 1174.66, 1567.98, 1975.53)):
+        string = struck(1.0, [(frequency, 1.0, 0.9), (frequency * 2, 0.35, 0.5), (frequency * 3.01, 0.14, 0.28), (frequency * 4.02, 0.06, 0.15)], 0.003)
+        put(out, stereo(string, -0.3 + 0.15 * step), 0.07 * step, 0.55 + 0.08 * step)
+    return reverberate(out, room(1.1, RANDOM, 6500), 0.28)
+
+
+def welldone():
+    """The ship's bell twice, then a peal up the chord, with a rush of air beneath it."""
+    out = np.zeros((samples(3.0), 2))
+    for at, gain in ((0.0, 0.9), (0.24, 1.0)):
+        put(out, stereo(bell(830.61, 1.9, 0.9), -0.1), at, gain)
+        put(out, stereo(bell(415.3, 1.6, 0.5), 0.1), at, 0.4 * gain)
+    for step, frequency in enumerate((1046.5, 1244.51, 1661.22, 2093.0, 2489.02)):
+        put(out, stereo(bell(frequency, 1.2, 0.7), -0.4 + 0.2 * step), 0.52 + 0.085 * step, 0.6)
+    for frequency, pan in ((830.61, -0.3), (1046.5, 0.0), (1244.51, 0.3), (1661.22, 0.15)):
+        put(out, stereo(bell(frequency, 1.7, 0.5), pan), 1.02, 0.5)
+    put(out, stereo(noise(1.2, 1500, 7000) * hump(1.2, 0.7)), 0.2, 0.1)
+    return reverberate(out, room(1.4, RANDOM, 6000), 0.25)
+
+
 def main(out):
-    for make in (find, click, wrong, card, jigsaw, page):
+    for make in (find, click, wrong, card, jigsaw, page, litter, returned, welldone):
         sound = master.peak_set(tail_cut(make()))
         master.write(f"{out}/{make.__name__}.wav", sound)
         print(f"{make.__name__}.wav: {len(sound) / master.RATE:.2f} s, {master.level(sound):.1f} dB RMS")

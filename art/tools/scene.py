@@ -11,6 +11,7 @@
 
 Run from art/.  scenes/SCENE/SCENE.tsv lists the things in drawing order: number in things.inc, entry name, page (p0, p1, ...) or loose.
 A row with - for the number is a picture of data/common, drawn right over the background, with its centre instead of a page.
+A row with + for the number is an animation, particles or a task, painted behind the last thing, with its place in pixels of the picture.
 
 A close-up is a picture of its own, SCENE/NAME: scenes/SCENE/closeups/NAME.pov, NAME_things.inc and NAME.tsv.  The head of its table says
 "# size: 760 520", "# centre: 0 -34" (where its middle lies in the scene) and, if it is to have one, "# frame: 22", the width of the frame
@@ -67,7 +68,11 @@ def things(p):
 
 def shared(p):
     """Entry name and centre of the pictures from data/common, in pixels of the picture."""
-    return [(name, *(int(v) for v in where.split(','))) for number, name, where in (row for row in p.rows() if row[0] == '-')]
+    return placed(p, '-')
+
+
+def placed(p, kind):
+    return [(row[1], *(int(v) for v in row[2].split(','))) for row in p.rows() if row[0] == kind]
 
 
 def doors(p):
@@ -355,6 +360,7 @@ def cut(p):
         pages.setdefault(where, []).append(name)
         if (x1 - x0) % 2 or (y1 - y0) % 2:
             sys.exit(f'{name}: odd size')
+    coords += [(name, x + left, y + top) for name, x, y in placed(p, '+')]
     for where, names in pages.items():
         if where == 'loose':
             for name in names:

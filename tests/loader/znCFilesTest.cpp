@@ -4,7 +4,11 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <fstream>
 #include <gmock/gmock.h>
+#include <map>
+#include <memory>
+#include <set>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -17,17 +21,89 @@ namespace fs = std::filesystem;
 // before those of the C library.
 namespace
 {
-int sCallsToFault = -1;  // none
-bool sFaultEnds = false; // the machine stops instead of the call failing
+enum class Fault
+{
+    once,         // the call fails
+    forEver,      // it and all that follow fail
+    killed,       // the process ends
+    contentsLost, // the power fails: names are on the disk, what was written and not flushed is not
+    namesLost     // the power fails: the folder is as it was when it was flushed last
+};
+
+// A folder on a disk that loses its power.
+struct Disk
+{
+    void flushed(int pFile)
+    {
+        struct stat info = {};
+        fstat(pFile, &info);
+        if (S_ISDIR(info.st_mode))
+            mFlushedNames = filesGet();
+        else
+            mFlushedFiles.insert(info.st_ino);
+    }
+    void start(const fs::path& pFolder)
+    {
+        mFolder = pFolder;
+        mFlushedNames = filesGet();
+        for (const auto& [name, content] : mFlushedNames)
+            mFlushedFiles.insert(inodeGet(name));
+    }
+    void contentsLose() const
+    {
+        for (const auto& [name, content] : filesGet())
+            if (mFlushedFiles.count(inodeGet(name)) == 0)
+                std::ofstream(mFolder / name) << std::string(content.size(), '\0');
+    }
+    void namesLose() const
+    {
+        for (const auto& [name, content] : filesGet())
+            fs::remove(mFolder / name);
+        for (const auto& [name, content] : mFlushedNames)
+            std::ofstream(mFolder / name) << content;
+    }
+
+private:
+    std::map<std::string, std::string> filesGet() const
+    {
+        std::map<std::string, std::string> files;
+        for (const auto& entry : fs::directory_iterator(mFolder))
+        {
+            std::ifstream file(entry.path());
+            files[entry.path().filename()] = std::string(std::istreambuf_iterator<char>(file), {});
+        }
+        return files;
+    }
+    ino_t inodeGet(const std::string& pName) const
+    {
+        struct stat info = {};
+        stat((mFolder / pName).c_str(), &info);
+        return info.st_ino;
+    }
+
+    fs::path mFolder;
+    std::map<std::string, std::string> mFlushedNames; // with their contents
+    std::set<ino_t> mFlushedFiles;
+};
+
+int sCallsToFault = -1; // none
+Fault sFault = Fault::once;
+std::unique_ptr<Disk> sDisk;
 
 bool isFaulty()
 {
     if (sCallsToFault < 0 || sCallsToFault-- > 0)
         return false;
-    if (sFaultEnds)
-        _exit(0);
+    if (sFault == Fault::forEver)
+        sCallsToFault = 0;
     errno = EIO;
-    return true;
+    if (sFault == Fault::once || sFault == Fault::forEver)
+        return true;
+    if (sFault == Fault::contentsLost)
+        sDisk->contentsLose();
+    if (sFault == Fault::namesLost)
+        sDisk->namesLose();
+    _exit(0);
 }
 } // namespace
 
@@ -35,7 +111,12 @@ extern "C"
 {
     int fsync(int pFile)
     {
-        return isFaulty() ? -1 : static_cast<int>(syscall(SYS_fsync, pFile));
+        if (isFaulty())
+            return -1;
+        const int result = static_cast<int>(syscall(SYS_fsync, pFile));
+        if (sDisk != nullptr)
+            sDisk->flushed(pFile);
+        return result;
     }
     int rename(const char* pFrom, const char* pTo) noexcept
     {
@@ -174,6 +255,8 @@ TEST_F(znCFilesTest, TheGenerationBeforeStandsInForAMissingOrEmptyFile)
     EXPECT_TRUE(write("ram://s.txt", "two"));
     EXPECT_EQ(mFolder.fileRead("user/s.txt~"), "one");
     EXPECT_EQ(read("ram://s.txt"), "two");
+    EXPECT_EQ(read("ram://s.txt~"), "one");
+    EXPECT_EQ(files().sizeGet("ram://s.txt~"), 3);
     mFolder.fileWrite("user/s.txt", "");
     EXPECT_EQ(read("ram://s.txt"), "one");
     fs::remove(mFolder / "user/s.txt");
@@ -219,44 +302,63 @@ TEST_F(znCFilesTest, TheLogIsThereAsItGoes)
     EXPECT_FALSE(fs::exists(mFolder / "elsewhere.txt"));
 }
 
-// Whichever step of saving fails or is the machine's last, a whole file is read afterwards, the old or the new one; and
-// close tells the truth about a failure.
+// Whichever step of saving fails or is the last one, a whole file is read afterwards, the old or the new one; close
+// tells the truth about a failure, and the next save goes through.
 TEST_F(znCFilesTest, EveryStepOfSavingMayFailOrBeTheLast)
 {
     const std::string older(5000, '1');
     const std::string old(6000, '2');
     const std::string fresh(70000, '3');
-    bool reached = true;
-    int steps = 0;
-    for (int fault = 0; reached; ++fault)
-        for (bool ends : {false, true})
+    for (const Fault fault : {Fault::once, Fault::forEver, Fault::killed, Fault::contentsLost, Fault::namesLost})
+    {
+        int steps = 0;
+        for (bool reached = true; reached; ++steps)
         {
+            SCOPED_TRACE("fault " + std::to_string(static_cast<int>(fault)) + " step " + std::to_string(steps));
             for (const std::string& text : {older, old})
                 ASSERT_TRUE(write("ram://s.txt", text));
-            bool saved = false;
-            if (ends)
-                apart(
-                    [&]
-                    {
-                        sCallsToFault = fault;
-                        sFaultEnds = true;
-                        write("ram://s.txt", fresh);
-                    });
-            else
-            {
-                sCallsToFault = fault;
-                sFaultEnds = false;
-                saved = write("ram://s.txt", fresh);
-                reached = sCallsToFault < 0;
-                sCallsToFault = -1;
-            }
+            apart(
+                [&]
+                {
+                    sDisk = std::make_unique<Disk>();
+                    sDisk->start(mFolder / "user");
+                    sFault = fault;
+                    sCallsToFault = steps;
+                    const bool saved = write("ram://s.txt", fresh);
+                    if (sCallsToFault >= 0 && fault != Fault::forEver)
+                        mFolder.fileWrite("through.txt", "");
+                    if (saved)
+                        mFolder.fileWrite("saved.txt", "");
+                });
+            reached = steps < 20 && !fs::remove(mFolder / "through.txt");
             const std::string found = read("ram://s.txt");
-            EXPECT_TRUE(found == old || found == fresh) << "fault " << fault << " ends " << ends;
-            EXPECT_TRUE(!saved || found == fresh) << fault;
-            EXPECT_THAT(names("ram://"), testing::ElementsAre("s.txt")) << fault;
-            steps += ends ? 0 : 1;
+            EXPECT_TRUE(found == old || found == fresh);
+            EXPECT_TRUE(!fs::remove(mFolder / "saved.txt") || found == fresh);
+            EXPECT_THAT(read("ram://s.txt~"), testing::AnyOf(older, old));
+            EXPECT_THAT(names("ram://"), testing::ElementsAre("s.txt"));
         }
-    EXPECT_GE(steps, 5); // content flushed, older kept, renamed, folder flushed, and one without a fault
+        EXPECT_GE(steps, 7); // content flushed, older held, renamed, folder flushed, held renamed, and none
+    }
+}
+
+// The generation before is all there is then, so nothing may happen to it before the new file stands.
+TEST_F(znCFilesTest, ADamagedFileNeverReplacesTheGoodOneBeforeIt)
+{
+    for (int step = 0; step < 10; ++step)
+    {
+        write("ram://s.txt", "good");
+        write("ram://s.txt", "also good");
+        mFolder.fileWrite("user/s.txt", "damaged");
+        apart(
+            [&]
+            {
+                sFault = Fault::killed;
+                sCallsToFault = step;
+                write("ram://s.txt", "new");
+            });
+        if (read("ram://s.txt") != "new")
+            EXPECT_EQ(read("ram://s.txt~"), "good") << step;
+    }
 }
 
 TEST_F(znCFilesTest, AFullDiskKeepsTheOlderFile)
@@ -293,7 +395,8 @@ TEST_F(znCFilesTest, ListsAreSortedAndHideWhatIsTheFoldersOwn)
 {
     for (const char* name : {"data/d/b.txt", "data/d/B.txt", "data/d/a/x", "data/d/a-very-long-name-of-a-file"})
         mFolder.fileWrite(name, "x");
-    for (const char* name : {"user/z.txt", "user/z.txt~", "user/a.txt~", "user/half.txt~99999999"})
+    for (const char* name :
+         {"user/z.txt", "user/z.txt~", "user/a.txt~", "user/half.txt~99999999", "user/held.txt~99999999~"})
         mFolder.fileWrite(name, "x");
     EXPECT_THAT(names("d"), testing::ElementsAre("B.txt", "a", "b.txt")); // the long one doesn't fit into the buffer
     EXPECT_THAT(names("d/"), testing::ElementsAre("B.txt", "a", "b.txt"));
@@ -304,4 +407,5 @@ TEST_F(znCFilesTest, ListsAreSortedAndHideWhatIsTheFoldersOwn)
     EXPECT_EQ(files().sizeGet("d"), -1);
     // That process is gone: what it left half written was cleared away.
     EXPECT_FALSE(fs::exists(mFolder / "user/half.txt~99999999"));
+    EXPECT_FALSE(fs::exists(mFolder / "user/held.txt~99999999~"));
 }

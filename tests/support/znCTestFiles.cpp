@@ -6,6 +6,7 @@ namespace
 {
 const std::string DRIVE = "ram://";
 const std::string LOG = "ram://log.txt";
+constexpr char FORMER_MARK = '~';
 
 bool onDrive(const std::string& pName)
 {
@@ -53,6 +54,11 @@ void znCTestFiles::fileRemove(const std::string& pName)
     mFormer.erase(pName);
 }
 
+void znCTestFiles::formerSet(const std::string& pName, const std::string& pContent)
+{
+    mFormer[pName] = pContent;
+}
+
 bool znCTestFiles::fileExists(const std::string& pName) const
 {
     return contentFind(pName) != nullptr;
@@ -85,8 +91,11 @@ s32 znCTestFiles::operationCountGet(Operation pOperation) const
 
 const std::string* znCTestFiles::contentFind(const std::string& pName) const
 {
-    const std::string name = normalisedGet(pName);
-    const auto file = mFiles.find(name);
+    std::string name = normalisedGet(pName);
+    const bool formerWanted = onDrive(name) && name.ends_with(FORMER_MARK);
+    if (formerWanted)
+        name.pop_back();
+    const auto file = formerWanted ? mFiles.end() : mFiles.find(name);
     if (file != mFiles.end() && !(file->second.empty() && mFormer.count(name) != 0))
         return &file->second;
     const auto former = mFormer.find(name);
@@ -121,7 +130,8 @@ s3eFile* znCTestFiles::open(const char* pName, const char* pMode)
 {
     const std::string name = normalisedGet(pName);
     const bool writing = std::strcmp(pMode, "wb") == 0;
-    if (faultTake(Operation::open, name) || name.empty() || name == DRIVE || (writing && !onDrive(name)))
+    if (faultTake(Operation::open, name) || name.empty() || name == DRIVE ||
+        (writing && (!onDrive(name) || name.ends_with(FORMER_MARK))))
         return nullptr;
     const std::string* content = contentFind(name);
     if (!writing && content == nullptr)

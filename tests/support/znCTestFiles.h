@@ -3,7 +3,8 @@
 
 // The platform's files, in memory, by the rules of s3e.h: plain names can only be read, "ram://" names can be written
 // and appear when they are closed, whole or not at all; the generation before is read when the newer one is missing or
-// empty; "ram://log.txt" is written as it goes. A name that leaves its folder is refused.
+// empty, and under its own name with a "~" behind it; "ram://log.txt" is written as it goes. A name that leaves its
+// folder is refused.
 //
 // A test puts files in with fileSet and makes operations fail with faultSet.
 
@@ -46,7 +47,8 @@ public:
 
     // --- for the test ---
     void fileSet(const std::string& pName, const std::string& pContent);
-    void fileRemove(const std::string& pName); // both generations
+    void fileRemove(const std::string& pName);                             // both generations
+    void formerSet(const std::string& pName, const std::string& pContent); // the generation before
     bool fileExists(const std::string& pName) const;
     std::string fileGet(const std::string& pName) const; // as a reader sees it; "" if it is missing
     std::vector<std::string> namesGet() const;           // of all files

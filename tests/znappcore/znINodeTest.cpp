@@ -684,6 +684,13 @@ TEST_F(znINodeTest, FieldsComeBackAsTheyWent)
     EXPECT_EQ(pos.mX, -3);
     EXPECT_EQ(pos.mY, 4);
 
+    const std::string odd = "50% of {the} \"Petrel\", \xc3\xa9, %2";
+    znINode::strSave(text, odd);
+    EXPECT_EQ(text, "50%25 of %7Bthe%7D %22Petrel%22%2C \xc3\xa9%2C %252,");
+    EXPECT_EQ(znINode::strLoad(text), odd);
+    text = "5%,%2,%zz,"; // what nobody saved
+    EXPECT_EQ(znINode::strLoad(text) + znINode::strLoad(text) + znINode::strLoad(text), "5%%2%zz");
+
     text = "99999999999999999999,true,7";
     EXPECT_EQ(znINode::s32Load(text), 2147483647);
     EXPECT_FALSE(znINode::boolLoad(text));

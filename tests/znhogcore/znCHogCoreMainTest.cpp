@@ -2,7 +2,6 @@
 
 #include "tests/znhogcore/znCHogTest.h"
 #include "znappcore/src/znCScreenFade.h"
-#include "znappcore/src/znCUserSavedData.h"
 #include "znhogcore/src/znCHogMessageDispatcher.h"
 
 #include <algorithm>
@@ -12,7 +11,7 @@ namespace
 class znCHogCoreMainTest : public znCHogTest
 {
 protected:
-    static znCUserSavedData& user() { return *znCUserSavedData::instanceGet(); }
+    static znCHogUserSavedData& user() { return *znCHogUserSavedData::instanceGet(); }
 };
 
 TEST_F(znCHogCoreMainTest, followsTheMapRule)
@@ -36,10 +35,10 @@ TEST_F(znCHogCoreMainTest, followsTheMapRule)
     };
     for (const Case& c : cases)
     {
-        user().strSet(znCHogCoreMain::MAP_LEVEL_KEY, c.mOffered);
+        user().strSet(znCHogUserSavedData::MAP_LEVEL, c.mOffered);
         znCHogCoreMain::instanceGet()->nextScreenAndCurrLevSet(c.mScreen);
-        EXPECT_EQ(user().strGet(znCHogCoreMain::CURRENT_LEVEL_KEY), c.mStored) << c.mScreen;
-        EXPECT_EQ(user().strGet(znCHogCoreMain::MAP_LEVEL_KEY), c.mOfferedThen) << c.mScreen;
+        EXPECT_EQ(user().strGet(znCHogUserSavedData::CURRENT_LEVEL), c.mStored) << c.mScreen;
+        EXPECT_EQ(user().strGet(znCHogUserSavedData::MAP_LEVEL), c.mOfferedThen) << c.mScreen;
     }
     znCHogCoreMain::instanceGet()->nextScreenSet("");
 }
@@ -50,7 +49,7 @@ TEST_F(znCHogCoreMainTest, opensAScreenWhenTheOneBeforeHasGone)
     sceneSet("quay", "Background.png,0,0\n", "ACT1NextLev = \"shop\",\r\n");
     sceneSet("shop", "Background.png,0,0\n");
     sceneOpen("quay");
-    EXPECT_EQ(user().strGet(znCHogCoreMain::CURRENT_LEVEL_KEY), "quay");
+    EXPECT_EQ(user().strGet(znCHogUserSavedData::CURRENT_LEVEL), "quay");
     frame(FADE_FRAMES);
     mEar.take();
     send(znCHogMessageDispatcher::CONTINUE_GAME);
@@ -63,7 +62,7 @@ TEST_F(znCHogCoreMainTest, opensAScreenWhenTheOneBeforeHasGone)
     frame(FADE_FRAMES);
     EXPECT_EQ(mEar.take(), "resetLevel; postResetLevel; levelLoadComp; ");
     EXPECT_EQ(level().levelNameGet(), "shop");
-    EXPECT_EQ(user().strGet(znCHogCoreMain::CURRENT_LEVEL_KEY), "shop");
+    EXPECT_EQ(user().strGet(znCHogUserSavedData::CURRENT_LEVEL), "shop");
     EXPECT_NE(user().strGet("LevDat:quay"), "");
 }
 
@@ -118,7 +117,7 @@ TEST_F(znCHogCoreMainTest, neverLeavesThePlayerBeforeAnEmptyScreen)
         SCOPED_TRACE(c.mScreen);
         sceneOpen("quay");
         frame(FADE_FRAMES);
-        user().strSet(znCHogCoreMain::CURRENT_LEVEL_KEY, c.mScreen);
+        user().strSet(znCHogUserSavedData::CURRENT_LEVEL, c.mScreen);
         znCHogCoreMain::instanceGet()->nextScreenSet(c.mScreen);
         znCScreenFade::instanceGet()->fadeOut(znCHogCoreMain::SCREEN_FADE_MS);
         errorsTake();
@@ -131,7 +130,7 @@ TEST_F(znCHogCoreMainTest, neverLeavesThePlayerBeforeAnEmptyScreen)
         znINode* menu = znCHogCoreMain::instanceGet()->appDisplayChildFind("MainMenuGui");
         ASSERT_NE(menu, nullptr);
         EXPECT_EQ(menu->childFind("Box") != nullptr, *c.mScreen != 0);
-        EXPECT_EQ(user().strGet(znCHogCoreMain::CURRENT_LEVEL_KEY), "") << "Continue must not lead there again";
+        EXPECT_EQ(user().strGet(znCHogUserSavedData::CURRENT_LEVEL), "") << "Continue must not lead there again";
         menu->destroy();
         frame();
     }

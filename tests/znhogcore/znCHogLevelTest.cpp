@@ -3,7 +3,6 @@
 #include "tests/support/allocationCount.h"
 #include "tests/znhogcore/znCHogTest.h"
 #include "znappcore/components/znCTextSpriteComponent.h"
-#include "znappcore/src/znCUserSavedData.h"
 #include "znappcore/znIDisplay.h"
 #include "znappcore/znIInputManager.h"
 #include "znhogcore/src/znCHogMessageDispatcher.h"
@@ -28,7 +27,7 @@ protected:
         sEvent = {pX, CANVAS_HEIGHT / 2};
         return &sEvent;
     }
-    static std::string userGet(const std::string& pKey) { return znCUserSavedData::instanceGet()->strGet(pKey); }
+    static std::string userGet(const std::string& pKey) { return znCHogUserSavedData::instanceGet()->strGet(pKey); }
     std::string nextGet() // the screen that follows
     {
         levelLeave();

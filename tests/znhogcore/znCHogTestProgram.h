@@ -11,9 +11,9 @@
 #include "tests/support/znCTestPlatform.h"
 #include "znappcore/src/znCGuiMessageDispatcher.h"
 #include "znappcore/src/znCScreenFade.h"
-#include "znappcore/src/znCUserSavedData.h"
 #include "znappcore/znCEmptyMessageData.h"
 #include "znhogcore/src/znCHogCoreMain.h"
+#include "znhogcore/src/znCHogUserSavedData.h"
 #include "znhogcore/znIHogLevel.h"
 
 #include <string>
@@ -84,7 +84,7 @@ public:
     // What the level of that name has stored is cleared.
     static void savedStateForget(const std::string& pLevelName)
     {
-        znCUserSavedData::instanceGet()->strSet(znIHogLevel::SAVED_STATE_KEY + pLevelName, "");
+        znCHogUserSavedData::instanceGet()->levelStateSet(pLevelName, "");
     }
 
     znCTestPlatform mPlatform;

@@ -4,12 +4,14 @@
 #include "znappcore/components/gui/elements/znCButtonDelayComponent.h"
 #include "znappcore/components/gui/elements/znCCheckBoxComponent.h"
 #include "znappcore/components/gui/elements/znCCheckBoxGroupComponent.h"
+#include "znappcore/components/gui/elements/znCCommodityButtonComponent.h"
 #include "znappcore/components/gui/elements/znCKeyFocusComponent.h"
 #include "znappcore/components/gui/elements/znCSliderComponent.h"
 #include "znappcore/components/gui/znCConfirmBoxGui.h"
 #include "znappcore/components/gui/znCMessageBoxGui.h"
 #include "znappcore/components/gui/znCModalGuiComponent.h"
 #include "znappcore/components/gui/znCNotificationsGui.h"
+#include "znappcore/components/gui/znCRollOverGui.h"
 #include "znappcore/components/gui/znCSplashScreenGui.h"
 #include "znappcore/components/znCAnimatingSpriteComponent.h"
 #include "znappcore/components/znCArcLineTrailComponent.h"
@@ -68,10 +70,12 @@ void znCComponentFactory::componentsRegister()
     componentRegister<znCArcLineTrailComponent>();
     componentRegister<znCTextSpriteComponent>();
     componentRegister<znCRevealingTextSpriteComponent>();
+    componentRegister<znCRollOverGui>();
     componentRegister<znCConfirmBoxGui>();
     componentRegister<znCMessageBoxGui>();
     componentRegister<znCNotificationsGui>();
     componentRegister<znCSplashScreenGui>();
+    componentRegister<znCCommodityButtonComponent>();
     componentRegister<znCButtonComponent>();
     componentRegister<znCButtonDelayComponent>();
     componentRegister<znCCheckBoxComponent>();

@@ -22,12 +22,17 @@ std::string keyGet(const char* pPrefix, s32 pIndex)
 
 void znCGlobalSavedData::create()
 {
+    ZN_ASSERT(!existsGet(), "Already created znCGlobalSavedData.\n");
     instanceSet(new znCGlobalSavedData());
+}
+
+bool znCGlobalSavedData::existsGet()
+{
+    return sInstance != nullptr;
 }
 
 void znCGlobalSavedData::instanceSet(znCGlobalSavedData* pInstance)
 {
-    ZN_ASSERT(sInstance == nullptr, "Already created znCGlobalSavedData.\n");
     sInstance.reset(pInstance);
     sInstance->reset();
 }

@@ -32,7 +32,8 @@ public:
 
 protected:
     znCGlobalSavedData() = default;
-    // Makes pInstance, a derived class's, the one instance; destroy() deletes it.
+    static bool existsGet();
+    // Makes pInstance, a derived class's, the one instance, and fills it; destroy() deletes it.
     static void instanceSet(znCGlobalSavedData* pInstance);
 
 private:

@@ -19,12 +19,17 @@ std::unique_ptr<znCUserSavedData> sInstance;
 
 void znCUserSavedData::create()
 {
+    ZN_ASSERT(!existsGet(), "Already created znCUserSavedData.\n");
     instanceSet(new znCUserSavedData());
+}
+
+bool znCUserSavedData::existsGet()
+{
+    return sInstance != nullptr;
 }
 
 void znCUserSavedData::instanceSet(znCUserSavedData* pInstance)
 {
-    ZN_ASSERT(sInstance == nullptr, "Already created znCUserSavedData.\n");
     sInstance.reset(pInstance);
     sInstance->reset();
     sInstance->progressClear();

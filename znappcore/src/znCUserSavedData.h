@@ -41,7 +41,8 @@ public:
 
 protected:
     znCUserSavedData() = default;
-    // Makes pInstance, a derived class's, the one instance; destroy() deletes it.
+    static bool existsGet();
+    // Makes pInstance, a derived class's, the one instance, and fills it; destroy() deletes it.
     static void instanceSet(znCUserSavedData* pInstance);
 };
 

@@ -10,6 +10,7 @@
 #include "zncore/debug/znIDebug.h"
 #include "zncore/znCResourceName.h"
 #include "zncore/znIFile.h"
+#include "znhogcore/components/znCGhostSpriteComponent.h"
 #include "znhogcore/components/znCLockComponent.h"
 #include "znhogcore/components/znCNameComponent.h"
 #include "znhogcore/components/znCSubSceneComponent.h"
@@ -30,6 +31,12 @@ znCBrushPtr brushIfExistsGet(const std::string& pFile)
     return znIFile::existsGet(name) ? znCBrushManager::instanceGet()->brushGet(name, true) : znCBrushPtr();
 }
 } // namespace
+
+znCDraggableKeyComponent::znCDraggableKeyComponent(znCEntity* pEntity) : znIMessageListenerComponent(pEntity)
+{
+    if (auto* ghost = pEntity->componentAdd<znCGhostSpriteComponent>())
+        ghost->enabledSet(true);
+}
 
 void znCDraggableKeyComponent::messagesRegister()
 {

@@ -18,7 +18,8 @@ class znCDraggableKeyComponent : public znIMessageListenerComponent
 public:
     static constexpr znCUniqueId TYPE{"znCDraggableKeyComponent"};
 
-    using znIMessageListenerComponent::znIMessageListenerComponent;
+    // Gives the entity a znCGhostSpriteComponent: a key that lies in the scene shows in ghost mode.
+    explicit znCDraggableKeyComponent(znCEntity* pEntity);
 
     void messagesRegister() override;
     void messagesDeregister() override;

@@ -14,6 +14,7 @@
 #include "znhogcore/components/znCBonusSilhouetteComponent.h"
 #include "znhogcore/components/znCNameComponent.h"
 #include "znhogcore/components/znCSubSceneComponent.h"
+#include "znhogcore/components/znCSubSceneNavigateComponent.h"
 #include "znhogcore/components/znCTappableCollectableComponent.h"
 #include "znhogcore/components/znCTaskComponent.h"
 #include "znhogcore/src/znCHogEntityFactory.h"
@@ -171,6 +172,7 @@ void znCHogLevelLoaderComponent::load(const std::string&, const std::string& pFo
     std::vector<znCEntity*> entities = entitiesCreateFromCoordsFile(pFolder);
     imagesSet(entities, pFolder);
     entitesAddToSubScenes(entities);
+    doorsCheck(entities);
     touchHitSpritesStore(entities);
     postCollectionViewSet(entities);
     particlesStart(entities);
@@ -260,11 +262,36 @@ void znCHogLevelLoaderComponent::subSceneCompInit(znCEntity* pEntity, s32 pIndex
     pEntity->activeSet(pIndex == 0);
 }
 
+// A close-up lies over those before it, so a door back would open something that nobody sees.
+void znCHogLevelLoaderComponent::doorsCheck(const std::vector<znCEntity*>& pEntities)
+{
+    const auto isSubScene = [](const znCEntity* pEntity)
+    {
+        return pEntity->componentGet(znCSubSceneComponent::TYPE) != nullptr;
+    };
+    const auto subScenes = static_cast<s32>(std::count_if(pEntities.begin(), pEntities.end(), isSubScene));
+    s32 index = -1; // of the sub-scene that the entity stands in
+    for (const znCEntity* entity : pEntities)
+    {
+        index += isSubScene(entity) ? 1 : 0;
+        const auto* door = entity->componentGet<znCSubSceneNavigateComponent>();
+        const s32 target = door != nullptr ? door->targetIndexGet() : 0;
+        if (target >= subScenes)
+            ZN_LOG("%s: there is no close-up %d.\n", entity->nameGet().c_str(), target);
+        else if (target > 0 && target <= index)
+            ZN_LOG("%s stands in close-up %d, which lies over close-up %d: a door leads on to a later close-up only.\n",
+                   entity->nameGet().c_str(), index, target);
+    }
+}
+
+// A door has its own.
 void znCHogLevelLoaderComponent::particlesStart(const std::vector<znCEntity*>& pEntities)
 {
     for (znCEntity* entity : pEntities)
     {
         auto* emitter = entity->componentGet<znCParticleEmitterComponent>();
+        if (emitter != nullptr && emitter->emitterGet() != nullptr)
+            continue;
         const znCNameComponent* name = emitter != nullptr ? znCNameComponent::get(entity) : nullptr;
         if (name != nullptr)
             emitter->initialise(dataNameGet(PARTICLES_FOLDER + name->keyGet() + TABLE_EXTENSION));

@@ -38,6 +38,7 @@ public:
 private:
     void texturePagesLoad(const std::string& pFolder);
     void imagesSet(const std::vector<znCEntity*>& pEntities, const std::string& pFolder);
+    void doorsCheck(const std::vector<znCEntity*>& pEntities);
     void touchHitSpritesStore(const std::vector<znCEntity*>& pEntities);
     void postCollectionViewSet(const std::vector<znCEntity*>& pEntities);
     void particlesStart(const std::vector<znCEntity*>& pEntities);

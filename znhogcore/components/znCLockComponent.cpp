@@ -20,6 +20,7 @@ constexpr char TASK_END = '+';
 
 znCLockComponent::znCLockComponent(znCEntity* pEntity) : znCTappableCollectableComponent(pEntity)
 {
+    ghostSet(true);
     if (const znCNameComponent* name = znCNameComponent::get(pEntity))
         initialiseFromName(name->baseNameGet());
 }
@@ -85,7 +86,7 @@ bool znCLockComponent::keyTry(znCEntity* pKeyEntity, znCSpriteComponent* pDragSp
         return false;
     needed->mUsed = true;
     if (allKeysUsedGet())
-        znICollectableComponent::collectionProcessTrigger();
+        znCTappableCollectableComponent::collectionProcessTrigger();
     return true;
 }
 
@@ -115,7 +116,7 @@ void znCLockComponent::forceComplete()
         return;
     for (Key& key : mKeys)
         key.mUsed = true;
-    znICollectableComponent::collectionProcessTrigger();
+    znCTappableCollectableComponent::collectionProcessTrigger();
 }
 
 void znCLockComponent::mySave(std::string& pOut)
@@ -133,6 +134,6 @@ void znCLockComponent::myLoad(std::string& pIn)
     if (mState == STATE_COLLECTING && allKeysUsedGet())
     {
         mState = STATE_ACTIVE;
-        znICollectableComponent::collectionProcessTrigger();
+        znCTappableCollectableComponent::collectionProcessTrigger();
     }
 }

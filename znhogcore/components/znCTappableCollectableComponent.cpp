@@ -6,7 +6,19 @@
 #include "znappcore/znIInputManager.h"
 #include "zncore/debug/znIDebug.h"
 #include "zncore/znNCoreUtils.h"
+#include "znhogcore/components/znCGhostSpriteComponent.h"
 #include "znhogcore/components/znCSubSceneComponent.h"
+
+znCTappableCollectableComponent::znCTappableCollectableComponent(znCEntity* pEntity)
+    : znICollectableComponent(pEntity), mGhost(pEntity->componentAdd<znCGhostSpriteComponent>())
+{
+}
+
+void znCTappableCollectableComponent::ghostSet(bool pEnabled)
+{
+    if (mGhost != nullptr)
+        mGhost->enabledSet(pEnabled);
+}
 
 void znCTappableCollectableComponent::messagesRegister()
 {
@@ -86,8 +98,27 @@ void znCTappableCollectableComponent::pointerCaptureCancel()
     znIInputManager::instanceGet()->messageSend(znIInputManager::POINTER_DOWN_STEAL, &message);
 }
 
+void znCTappableCollectableComponent::myLoad(std::string& pIn)
+{
+    znICollectableComponent::myLoad(pIn);
+    ghostSet(mState == STATE_ACTIVE);
+}
+
+// It may stay on view when collected.
+void znCTappableCollectableComponent::collectionProcessTrigger()
+{
+    ghostSet(false);
+    znICollectableComponent::collectionProcessTrigger();
+}
+
+void znCTappableCollectableComponent::activateDo()
+{
+    ghostSet(true);
+}
+
 void znCTappableCollectableComponent::resetDo()
 {
+    ghostSet(false);
     if (mPressed)
         pressEnd();
 }

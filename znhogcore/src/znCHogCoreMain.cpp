@@ -9,7 +9,6 @@
 #include "znappcore/src/znCEntity.h"
 #include "znappcore/src/znCLocalisedStrings.h"
 #include "znappcore/src/znCScreenFade.h"
-#include "znappcore/src/znCUserSavedData.h"
 #include "znappcore/znIAudioManager.h"
 #include "zncore/debug/znIDebug.h"
 #include "zncore/znCResourceName.h"
@@ -19,7 +18,9 @@
 #include "znhogcore/src/znCCollectionEffectFactory.h"
 #include "znhogcore/src/znCHogComponentFactory.h"
 #include "znhogcore/src/znCHogEntityFactory.h"
+#include "znhogcore/src/znCHogGlobalSavedData.h"
 #include "znhogcore/src/znCHogMessageDispatcher.h"
+#include "znhogcore/src/znCHogUserSavedData.h"
 #include "znhogcore/znIHogLevel.h"
 
 namespace
@@ -49,6 +50,12 @@ bool screenExistsGet(const std::string& pScreen)
 znCHogCoreMain* znCHogCoreMain::instanceGet()
 {
     return dynamic_cast<znCHogCoreMain*>(znCAppCoreMain::instanceGet());
+}
+
+void znCHogCoreMain::savedDataCreate()
+{
+    znCHogGlobalSavedData::create();
+    znCHogUserSavedData::create();
 }
 
 void znCHogCoreMain::messageDispatchersDestroy()
@@ -92,28 +99,28 @@ void znCHogCoreMain::nextScreenSet(const std::string& pScreen)
 void znCHogCoreMain::nextScreenAndCurrLevSet(const std::string& pScreen)
 {
     nextScreenSet(pScreen);
-    znCUserSavedData::instanceGet()->strSet(CURRENT_LEVEL_KEY, mNextScreen);
+    znCHogUserSavedData::instanceGet()->currentLevelSet(mNextScreen);
 }
 
 void znCHogCoreMain::firstSceneSet()
 {
-    znCUserSavedData::instanceGet()->progressClear();
+    znCHogUserSavedData::instanceGet()->progressClear();
     mNextScreen = znCAppSettings::instanceGet()->strGet(FIRST_SCENE_KEY);
 }
 
 void znCHogCoreMain::mapRuleApply()
 {
-    znCUserSavedData* user = znCUserSavedData::instanceGet();
-    const std::string offered = user->strGet(MAP_LEVEL_KEY);
+    znCHogUserSavedData* user = znCHogUserSavedData::instanceGet();
+    const std::string offered = user->mapLevelGet();
     const std::size_t target = mNextScreen.find(MAP_TO);
     if (target != std::string::npos)
     {
         if (offered.empty())
-            user->strSet(MAP_LEVEL_KEY, mNextScreen.substr(target + std::char_traits<char>::length(MAP_TO)));
+            user->mapLevelSet(mNextScreen.substr(target + std::char_traits<char>::length(MAP_TO)));
         mNextScreen = MAP;
     }
     else if (mNextScreen == offered)
-        user->strSet(MAP_LEVEL_KEY, "");
+        user->mapLevelSet("");
 }
 
 void znCHogCoreMain::appUpdate(s32)
@@ -162,9 +169,9 @@ void znCHogCoreMain::missingScreenShow()
 {
     ZN_LOG("The screen %s can't be opened: %s is missing or makes no scene.\n", mNextScreen.c_str(),
            screenFileGet(mNextScreen).c_str());
-    znCUserSavedData* user = znCUserSavedData::instanceGet();
-    if (user->strGet(CURRENT_LEVEL_KEY) == mNextScreen)
-        user->strSet(CURRENT_LEVEL_KEY, "");
+    znCHogUserSavedData* user = znCHogUserSavedData::instanceGet();
+    if (user->currentLevelGet() == mNextScreen)
+        user->currentLevelSet("");
     guiScreenOpen(MAIN_MENU_FILE);
     if (znINode* menu = appDisplayChildFind(znCMainMenuGui::NAME))
         znCMessageBoxGui::messageBoxCreate(menu, znCLocalisedStrings::localisedStringGet(MISSING_SCREEN_TEXT));

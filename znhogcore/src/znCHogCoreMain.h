@@ -16,11 +16,6 @@
 class znCHogCoreMain : public znCAppCoreMain
 {
 public:
-    // Keys of the player's data.
-    static constexpr const char* CURRENT_LEVEL_KEY = "CurrLev";  // the screen to continue at
-    static constexpr const char* MAP_LEVEL_KEY = "mapLev";       // what the map offers next
-    static constexpr const char* CASUAL_KEY = "Casual";          // bool, true: hints come quickly, and a tutorial helps
-    static constexpr const char* MALE_KEY = "Male";              // bool, false: the player's figure
     static constexpr const char* FIRST_SCENE_KEY = "firstScene"; // of the application's settings
     static constexpr const char* MAP = "map";
     static constexpr const char* MAP_TO = "map->"; // and the level that the map is to offer
@@ -45,6 +40,7 @@ public:
 protected:
     znCHogCoreMain() = default;
 
+    void savedDataCreate() override;
     void messageDispatchersDestroy() override;
     void messageDispatchersCreate() override;
     void shutDownPrepare() override;

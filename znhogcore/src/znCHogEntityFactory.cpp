@@ -14,9 +14,13 @@
 #include "znhogcore/components/znCHotComponent.h"
 #include "znhogcore/components/znCLockComponent.h"
 #include "znhogcore/components/znCNameComponent.h"
+#include "znhogcore/components/znCNavigateComponent.h"
 #include "znhogcore/components/znCRandomPickableComponent.h"
 #include "znhogcore/components/znCRequiredPickableComponent.h"
 #include "znhogcore/components/znCSubSceneComponent.h"
+#include "znhogcore/components/znCSubSceneExitComponent.h"
+#include "znhogcore/components/znCSubSceneNavigateComponent.h"
+#include "znhogcore/components/znCSubSceneViewComponent.h"
 #include "znhogcore/components/znCTappableCollectableComponent.h"
 #include "znhogcore/components/znCTaskComponent.h"
 
@@ -39,8 +43,7 @@ std::vector<Plan> plansGet()
 {
     return {
         {"Background",
-         {znCSubSceneComponent::TYPE, znCUniqueId("znCSubSceneViewComponent"), znCUniqueId("znCSubSceneExitComponent"),
-          SPRITE}},
+         {znCSubSceneComponent::TYPE, znCSubSceneViewComponent::TYPE, znCSubSceneExitComponent::TYPE, SPRITE}},
         {PREFIX_PLAIN, {SPRITE}},
         {"PCK-", {SPRITE, TAPPABLE, znCRandomPickableComponent::TYPE}, &typeid(znCRandomPickableComponent)},
         {"HDN-", {SPRITE, TAPPABLE, znCHiddenPickableComponent::TYPE}, &typeid(znCHiddenPickableComponent)},
@@ -48,9 +51,9 @@ std::vector<Plan> plansGet()
         {"ANM-", {ANIMATING_SPRITE}},
         {"PAR-", {znCParticleEmitterComponent::TYPE}},
         {"HOT-", {SPRITE, TAPPABLE, znCHotComponent::TYPE}},
-        {"SUB", {SPRITE, znCUniqueId("znCSubSceneNavigateComponent")}},
-        {"NAV", {SPRITE, znCUniqueId("znCNavigateComponent")}},
-        {"NAVP", {SPRITE, znCUniqueId("znCNavigateComponent")}},
+        {"SUB", {SPRITE, znCSubSceneNavigateComponent::TYPE}},
+        {"NAV", {SPRITE, znCNavigateComponent::TYPE}},
+        {"NAVP", {SPRITE, znCNavigateComponent::TYPE}},
         {"INS-", {SPRITE, znCDraggableKeyComponent::TYPE}},
         {"PRE-", {SPRITE, znCLockComponent::TYPE}},
         {"TSK-", {znCTaskComponent::TYPE}, &typeid(znCTaskComponent)},

@@ -103,7 +103,8 @@ struct s3ePointerTouchMotionEvent
 // A plain name lies in the game's read-only data folder, a name that starts with "ram://" on the writable drive, which
 // lasts between runs. A name that leaves its folder is refused. A file opened with "wb" appears under its name when it
 // is closed, whole or not at all; s3eFileFlush or s3eFileClose report the failure. The one before it is kept beside it
-// and is read when the newer one is missing or empty. "log.txt" is the one file written as it goes, without that care.
+// and is read when the newer one is missing or empty; with a "~" behind the name it can be read, and only read, at any
+// time. "log.txt" is the one file written as it goes, without that care.
 struct s3eFile;
 struct s3eFileList;
 constexpr s32 S3E_FILE_SIZE = 0;   // s3eFileGetFileInt: bytes, -1 if there is no such file

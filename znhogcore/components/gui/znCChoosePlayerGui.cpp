@@ -23,8 +23,8 @@ constexpr char DELETE[] = "ChoosePlayerDeleteButton";
 constexpr char OK[] = "ChoosePlayerOKButton";
 constexpr char DELETE_WARNING[] = "deleteprofilewarning";
 constexpr char NAME_MARK[] = "%NAME";
-constexpr znCUniqueId MESSAGES[] = {znCPlayerSlotGui::SELECTED, znCProfileManager::PROFILE_SLOTS_HAVE_CHANGED,
-                                    znCConfirmBoxGui::YES_RESPONSE};
+constexpr znCUniqueId MESSAGES[] = {znCGuiMessageDispatcher::PLAYER_SLOT_SELECTED,
+                                    znCProfileManager::PROFILE_SLOTS_HAVE_CHANGED, znCConfirmBoxGui::YES_RESPONSE};
 
 s32 playersCount()
 {
@@ -133,7 +133,7 @@ void znCChoosePlayerGui::messagesDeregister()
 
 bool znCChoosePlayerGui::messageProcess(const znCUniqueId& pType, void* pData)
 {
-    if (pType == znCPlayerSlotGui::SELECTED)
+    if (pType == znCGuiMessageDispatcher::PLAYER_SLOT_SELECTED)
         currentProfileSet(*static_cast<const s32*>(pData));
     else if (pType == znCConfirmBoxGui::YES_RESPONSE)
         znCProfileManager::instanceGet()->profileDelete(mSelected);

@@ -7,13 +7,13 @@
 #include "znappcore/src/znCGuiMessageDispatcher.h"
 #include "znappcore/src/znCLocalisedStrings.h"
 #include "znappcore/src/znCScreenFade.h"
-#include "znappcore/src/znCUserSavedData.h"
 #include "znappcore/znIAudioManager.h"
 #include "zncore/debug/znIDebug.h"
 #include "zncore/znCResourceName.h"
 #include "zncore/znStr.h"
 #include "znhogcore/components/gui/znCNewPlayerGui.h"
 #include "znhogcore/src/znCHogCoreMain.h"
+#include "znhogcore/src/znCHogUserSavedData.h"
 
 namespace
 {
@@ -44,7 +44,7 @@ void znCMainMenuGui::initialiseFromVariableTableDo(const znCVariableTable& pTabl
 void znCMainMenuGui::statesUpdate()
 {
     const bool profile = profileGet() != znCGlobalSavedData::PROFILE_NONE;
-    const bool underWay = !znCUserSavedData::instanceGet()->strGet(znCHogCoreMain::CURRENT_LEVEL_KEY).empty();
+    const bool underWay = znCHogUserSavedData::instanceGet()->gameInProgressGet();
     welcomeUpdate(profile);
     znNGuiChildren::activeSet(*this, CONTINUE, underWay);
     znNGuiChildren::activeSet(*this, NEW_GAME, profile && !underWay);
@@ -87,7 +87,7 @@ bool znCMainMenuGui::onButtonClicked(znCButtonComponent* pButton)
     }
     else if (name == CONTINUE)
     {
-        main->nextScreenSet(znCUserSavedData::instanceGet()->strGet(znCHogCoreMain::CURRENT_LEVEL_KEY));
+        main->nextScreenSet(znCHogUserSavedData::instanceGet()->currentLevelGet());
         fadeOut();
     }
     else

@@ -12,11 +12,11 @@
 #include "znappcore/src/znCLocalisedStrings.h"
 #include "znappcore/src/znCProfileManager.h"
 #include "znappcore/src/znCScreenFade.h"
-#include "znappcore/src/znCUserSavedData.h"
 #include "zncore/debug/znIDebug.h"
 #include "zncore/znCResourceName.h"
 #include "zncore/znStr.h"
 #include "znhogcore/src/znCHogCoreMain.h"
+#include "znhogcore/src/znCHogUserSavedData.h"
 
 namespace
 {
@@ -95,10 +95,10 @@ void znCNewPlayerGui::messageBoxShow(const char* pKey, const std::string& pName)
 
 void znCNewPlayerGui::choicesStore()
 {
-    znCUserSavedData* user = znCUserSavedData::instanceGet();
-    user->boolSet(znCHogCoreMain::CASUAL_KEY, checkedGet(CASUAL));
+    znCHogUserSavedData* user = znCHogUserSavedData::instanceGet();
+    user->boolSet(znCHogUserSavedData::CASUAL, checkedGet(CASUAL));
     if (znNGuiChildren::entityFind(*this, MALE) != nullptr)
-        user->boolSet(znCHogCoreMain::MALE_KEY, checkedGet(MALE));
+        user->boolSet(znCHogUserSavedData::MALE, checkedGet(MALE));
 }
 
 void znCNewPlayerGui::messagesRegister()

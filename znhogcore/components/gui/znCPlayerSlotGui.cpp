@@ -35,7 +35,7 @@ void znCPlayerSlotGui::slotUpdate()
 bool znCPlayerSlotGui::onButtonClicked(znCButtonComponent*)
 {
     s32 index = mIndex;
-    znCGuiMessageDispatcher::instanceGet()->messageSend(SELECTED, &index);
+    znCGuiMessageDispatcher::instanceGet()->messageSend(znCGuiMessageDispatcher::PLAYER_SLOT_SELECTED, &index);
     return true;
 }
 

@@ -33,6 +33,10 @@ public:
     // carry something else, are refused with a line in the log.
     void actionSet(const std::string& pAction);
 
+protected:
+    // See znCPressBrushes::otherShow.
+    void otherImageShow(const znCBrushPtr& pBrush) { mBrushes.otherShow(pBrush); }
+
 private:
     znCPressBrushes mBrushes;
     znCUniqueId mActionType = UNSET_ACTION;

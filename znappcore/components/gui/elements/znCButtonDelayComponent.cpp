@@ -1,5 +1,6 @@
 #include "znappcore/components/gui/elements/znCButtonDelayComponent.h"
 
+#include "znappcore/components/gui/elements/znCCommodityButtonComponent.h"
 #include "znappcore/components/gui/elements/znCPressBrushes.h"
 #include "znappcore/components/znCTextSpriteComponent.h"
 #include "znappcore/src/znCBrushManager.h"
@@ -109,15 +110,24 @@ bool znCButtonDelayComponent::finishedGet() const
     return mRecharge ? mFillFraction >= 1.0f : mFillFraction <= 0.0f;
 }
 
+bool znCButtonDelayComponent::skipUsableGet() const
+{
+    static const std::string sSkipEntity = SKIP_ENTITY;
+    znINode* parent = mEntity->parentGet();
+    const auto* skip = parent != nullptr ? dynamic_cast<const znCEntity*>(parent->childFind(sSkipEntity)) : nullptr;
+    const auto* button = skip != nullptr ? skip->componentGet<znCCommodityButtonComponent>() : nullptr;
+    return button != nullptr && button->countGet() > 0;
+}
+
 void znCButtonDelayComponent::refresh()
 {
     const float elapsed = mDelayMs > 0 ? static_cast<float>(mElapsedMs) / static_cast<float>(mDelayMs) : 1.0f;
     mFillFraction = mRecharge ? elapsed : 1.0f - elapsed;
-    if (finishedGet())
-    {
+    const bool finished = finishedGet();
+    if (finished || skipUsableGet())
         mEntity->activeSet(false);
+    if (finished)
         return;
-    }
     znINode* parent = mEntity->parentGet();
     static const std::string sTimerEntity = TIMER_ENTITY;
     const auto* timer = parent != nullptr ? dynamic_cast<const znCEntity*>(parent->childFind(sTimerEntity)) : nullptr;

@@ -2,7 +2,8 @@
 #define ZNAPPCORE_COMPONENTS_GUI_ELEMENTS_ZNCBUTTONDELAYCOMPONENT_H
 
 // Stands over a button and takes its taps until a delay is over: a picture of the disabled button with a bar that
-// fills, or a timer where the parent has a child "gameGuiTimer" with a text. Then it hides itself.
+// fills, or a timer where the parent has a child "gameGuiTimer" with a text. Then it hides itself. Where the parent has
+// a child "GameGuiSkipButton" that spends something and has some left, it doesn't hinder the player at all.
 //
 // Keys: "disabledImage"; "fillImage", of even width and height; "fillOffsetX", "fillOffsetY" (s32); "fillDirection":
 // "up", "down" (default), "left" or "right"; "fillDelayMs" (s32, 1000); "startsFull" (bool, false): the delay is over
@@ -23,6 +24,9 @@ public:
 
     // Name of the sibling that shows the remaining time instead of the bar.
     static constexpr const char* TIMER_ENTITY = "gameGuiTimer";
+
+    // Name of the sibling that makes waiting needless while it has something to spend.
+    static constexpr const char* SKIP_ENTITY = "GameGuiSkipButton";
 
     explicit znCButtonDelayComponent(znCEntity* pEntity);
 
@@ -52,6 +56,7 @@ private:
     void directionInitialise(const znCVariableTable& pTable);
     void refresh();
     bool finishedGet() const;
+    bool skipUsableGet() const;
     s32 fillLengthCalculate() const;
     void fillSpriteUpdate();
     void fillAreaShow(s32 pLength);

@@ -29,3 +29,9 @@ bool znCPressBrushes::show(bool pHighlighted)
     mSprite->brushSet(pHighlighted ? mDownBrush : mUpBrush);
     return true;
 }
+
+void znCPressBrushes::otherShow(const znCBrushPtr& pBrush)
+{
+    if (mSprite != nullptr)
+        mSprite->brushSet(pBrush != nullptr ? pBrush : mUpBrush);
+}

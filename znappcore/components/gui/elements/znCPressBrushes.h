@@ -17,6 +17,8 @@ public:
     void init(znCEntity& pEntity, const std::string& pUpImage, const std::string& pDownImage);
     // False if there is no second picture to show.
     bool show(bool pHighlighted);
+    // A picture for the time in which neither of the two fits; null brings the first one back.
+    void otherShow(const znCBrushPtr& pBrush);
 
     // A control's picture, with a hit map: it is pressed on its opaque pixels only.
     static znCBrushPtr brushGet(const std::string& pImage);
