@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <limits>
+#include <sstream>
 
 namespace
 {
@@ -203,21 +204,28 @@ void znCKeyFocusComponent::escapeProcess()
                                            mEntity->parentGet(), true);
 }
 
-void znCKeyFocusComponent::controlPress(const std::string& pName)
+// The first of the names, which blanks part, that is on view.
+void znCKeyFocusComponent::controlPress(const std::string& pNames)
 {
-    const znCEntity* control = controlFind(pName);
-    if (control == nullptr)
+    std::istringstream names(pNames);
+    bool known = false;
+    for (std::string name; names >> name;)
     {
-        // A control that is hidden just now is no fault.
-        if (mEntity->parentGet()->childFind(pName) == nullptr)
-            ZN_LOG("There is no control %s for the keyboard.\n", pName.c_str());
-        return;
+        if (const znCEntity* control = controlFind(name))
+            return pointerPress(control->worldPosGet());
+        known = known || mEntity->parentGet()->childFind(name) != nullptr;
     }
-    const znPoint middle = control->worldPosGet();
+    // A control that is hidden just now is no fault.
+    if (!known)
+        ZN_LOG("There is no control %s for the keyboard.\n", pNames.c_str());
+}
+
+void znCKeyFocusComponent::pointerPress(const znPoint& pPos)
+{
     mPressing = true;
     for (const bool down : {true, false})
     {
-        znCPointerMessage message(middle, 0, down);
+        znCPointerMessage message(pPos, 0, down);
         znIInputManager::instanceGet()->messageSend(down ? znIInputManager::POINTER_DOWN : znIInputManager::POINTER_UP,
                                                     &message);
     }

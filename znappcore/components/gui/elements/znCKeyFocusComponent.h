@@ -8,8 +8,10 @@
 //
 // Of several screens the one that opened last has the keys, and it keeps them from those behind it.
 //
-// Keys, all optional: "enter", "escape": names of controls of the screen; "escapeGui": GUI file that Escape opens below
-// the screen if there is no control for it. A name that isn't there is logged when its key is pressed.
+// Keys, all optional: "enter", "escape": names of controls of the screen, blanks between them, of which the first that
+// is on view is pressed; "escapeGui": GUI file that Escape opens below
+// the screen if there is no control for it. Names of which none
+// is there are logged when their key is pressed.
 
 #include "znappcore/src/znCSpriteRenderData.h"
 #include "znappcore/znIMessageListenerComponent.h"
@@ -42,7 +44,8 @@ private:
     bool sliderMove(s32 pStep);
     void enterProcess();
     void escapeProcess();
-    void controlPress(const std::string& pName);
+    void controlPress(const std::string& pNames);
+    void pointerPress(const znPoint& pPos);
     void frameUpdate();
     bool textEntryHas() const;
     znCEntity* controlFind(const std::string& pName) const;
