@@ -16,7 +16,9 @@ class znCUniqueId;
 class znIMessageListener
 {
 public:
-    // Listeners of higher priority are asked first. All have 0 but the ghost sprite (1) and the software cursor (2).
+    // Listeners of higher priority are asked first. All have 0 but the ghost sprite (1), the software cursor (2), the
+    // progress saver (3), which only takes note, and the round score (-1), which writes down what all others have
+    // stored.
     explicit znIMessageListener(s32 pPriority = 0) : mPriority(pPriority) {}
     znIMessageListener(const znIMessageListener&) = delete;
     znIMessageListener& operator=(const znIMessageListener&) = delete;

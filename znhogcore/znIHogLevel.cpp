@@ -9,11 +9,13 @@
 #include "znappcore/src/znCScreenFade.h"
 #include "znappcore/znCEmptyMessageData.h"
 #include "znappcore/znIAudioManager.h"
+#include "znappcore/znNSavedTree.h"
 #include "zncore/debug/znIDebug.h"
 #include "zncore/znCResourceName.h"
 #include "zncore/znIFile.h"
 #include "znhogcore/components/gui/znCPickListGui.h"
 #include "znhogcore/components/znCHogLevelLoaderComponent.h"
+#include "znhogcore/components/znCLevelCompleteCheckerComponent.h"
 #include "znhogcore/components/znCSubSceneComponent.h"
 #include "znhogcore/src/znCHogCoreMain.h"
 #include "znhogcore/src/znCHogLevel.h"
@@ -51,6 +53,7 @@ void znIHogLevel::create(const std::string& pName)
         return;
     auto* level = new znCHogLevel; // owned by the tree
     znCHogCoreMain::instanceGet()->appDisplayChildAdd(level);
+    level->componentAdd<znCLevelCompleteCheckerComponent>();
     level->messagesRegister();
     level->levelLoad(pName);
     level->soundStart();
@@ -163,9 +166,9 @@ void znIHogLevel::guiCreate()
 
 void znIHogLevel::savedStateLoad()
 {
-    std::string state = znCHogUserSavedData::instanceGet()->levelStateGet(mLevelName);
-    if (!state.empty())
-        treeLoad(state);
+    const std::string saved = znCHogUserSavedData::instanceGet()->levelStateGet(mLevelName);
+    if (!saved.empty())
+        stateRestore(saved);
     postLoadDo();
 }
 
@@ -179,6 +182,20 @@ void znIHogLevel::guiInit()
     ZN_ASSERT(list != nullptr, "Expecting a PickListGui component.\n");
     if (list != nullptr)
         list->totalSet(items);
+}
+
+// The scene may have changed since it was stored.
+void znIHogLevel::stateRestore(const std::string& pSaved)
+{
+    std::string fresh;
+    treeSave(fresh);
+    znNSavedTree::Fitted state = znNSavedTree::fit(fresh, pSaved);
+    if (state.mDamaged)
+        ZN_LOG("The stored state of the level %s is damaged; what is lost of it starts afresh.\n", mLevelName.c_str());
+    if (state.mNewCount > 0)
+        ZN_LOG("The stored state of the level %s knows nothing of %d of its things; they start afresh.\n",
+               mLevelName.c_str(), state.mNewCount);
+    treeLoad(state.mText);
 }
 
 void znIHogLevel::miniGameHelpSet()
@@ -197,8 +214,21 @@ void znIHogLevel::stateSave()
 {
     std::string state;
     treeSave(state);
+    stateKeep(state);
+}
+
+void znIHogLevel::progressStore()
+{
+    mProgress.clear();
+    treeSave(mProgress);
+    if (mProgress != znCHogUserSavedData::instanceGet()->levelStateGet(mLevelName))
+        stateKeep(mProgress);
+}
+
+void znIHogLevel::stateKeep(const std::string& pState)
+{
     znCHogUserSavedData* user = znCHogUserSavedData::instanceGet();
-    user->levelStateSet(mLevelName, state);
+    user->levelStateSet(mLevelName, pState);
     user->playTimeAdd(mTimePlayedMs - mTimeStoredMs);
     mTimeStoredMs = mTimePlayedMs;
 }

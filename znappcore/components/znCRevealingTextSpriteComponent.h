@@ -25,6 +25,7 @@ public:
     void reset();
     // Starts anew; logs "Already running." if it runs.
     void trigger();
+    bool runningGet() const { return mRunning; }   // started, and finished perhaps
     bool finishedGet() const { return mFinished; } // the update after the last letter
 
 private:

@@ -61,8 +61,13 @@ public:
     znCEntity* entityWithComponentFind(const std::type_info& pClass);
     // All entities at or below this one that hold a component of any of these classes, children before parents.
     std::vector<znCEntity*> entitiesWithComponentsGet(const std::vector<const std::type_info*>& pClasses);
+    // The same for a component that can be seen as a T.
+    template <class T>
+    std::vector<znCEntity*> entitiesWithKindGet();
 
 private:
+    template <class T>
+    static void kindCollect(znINode& pNode, std::vector<znCEntity*>& pFound);
     bool componentOfClassHeld(const std::vector<const std::type_info*>& pClasses) const;
     void pendingComponentsJoin();
     void componentEnter(const znCUniqueId& pType, std::unique_ptr<znIComponent> pComponent);
@@ -86,3 +91,21 @@ T* znCEntity::componentFind() const
 }
 
 #endif
+template <class T>
+std::vector<znCEntity*> znCEntity::entitiesWithKindGet()
+{
+    std::vector<znCEntity*> found;
+    kindCollect<T>(*this, found);
+    return found;
+}
+
+template <class T>
+void znCEntity::kindCollect(znINode& pNode, std::vector<znCEntity*>& pFound)
+{
+    for (znINode* child : pNode.childrenGet())
+        kindCollect<T>(*child, pFound);
+    auto* entity = dynamic_cast<znCEntity*>(&pNode);
+    if (entity != nullptr && entity->componentFind<T>() != nullptr)
+        pFound.push_back(entity);
+}
+

@@ -20,11 +20,10 @@ bool znCAnimCollectionEffectComponent::initialisedCheck() const
 
 void znCAnimCollectionEffectComponent::update(s32 pDeltaMs)
 {
-    if (mReported || !initialisedCheck())
+    if (endedGet() || !initialisedCheck())
         return;
     mAnim->update(pDeltaMs);
-    mReported = !mAnim->isRunning();
-    if (mReported)
+    if (!mAnim->isRunning())
         effectComplete();
 }
 

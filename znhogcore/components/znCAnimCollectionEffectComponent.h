@@ -29,7 +29,6 @@ private:
     bool initialisedCheck() const;
 
     std::unique_ptr<znCAnimatingSprite> mAnim;
-    bool mReported = false;
 };
 
 #endif

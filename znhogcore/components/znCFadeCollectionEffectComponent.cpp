@@ -28,8 +28,8 @@ void znCFadeCollectionEffectComponent::spriteInitialise(const znCEntity* pEntity
 
 void znCFadeCollectionEffectComponent::update(s32 pDeltaMs)
 {
-    if (mElapsedMs >= mDurationMs)
-        return; // has reported
+    if (endedGet())
+        return;
     mElapsedMs += pDeltaMs;
     if (mElapsedMs >= mDurationMs)
     {

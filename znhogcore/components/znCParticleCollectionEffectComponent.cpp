@@ -23,11 +23,10 @@ bool znCParticleCollectionEffectComponent::initialisedCheck() const
 
 void znCParticleCollectionEffectComponent::update(s32 pDeltaMs)
 {
-    if (mReported || !initialisedCheck())
+    if (endedGet() || !initialisedCheck())
         return;
     mEmitter->update(pDeltaMs);
-    mReported = mEndless || (!mEmitter->isEmitting() && mEmitter->liveCountGet() == 0);
-    if (mReported)
+    if (mEndless || (!mEmitter->isEmitting() && mEmitter->liveCountGet() == 0))
         effectComplete();
 }
 

@@ -30,7 +30,6 @@ private:
     bool initialisedCheck() const;
 
     std::unique_ptr<znCParticleEmitter> mEmitter;
-    bool mReported = false;
     bool mEndless = false;
 };
 

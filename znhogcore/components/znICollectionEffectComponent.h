@@ -13,12 +13,18 @@ public:
 
     using znIComponent::znIComponent;
 
+    // Ends the effect without a report, for a collectable that begins anew. Nothing happens once it has reported.
+    void effectCancel();
+
 protected:
-    // Reports to the collectable and destroys the entity. Once.
+    // Reports to the collectable and destroys the entity. Once; a second call does nothing.
     void effectComplete();
+    bool endedGet() const { return mEnded; } // the entity goes at the end of the frame
+    virtual void cancelDo();                 // what the player must not lose by an end before its time
 
 private:
     std::string mCollectedName; // set just before the report
+    bool mEnded = false;
 };
 
 #endif

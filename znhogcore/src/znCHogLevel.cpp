@@ -6,10 +6,16 @@
 #include "znappcore/znCEmptyMessageData.h"
 #include "zncore/debug/znIDebug.h"
 #include "zncore/znCResourceName.h"
+#include "znhogcore/components/gui/znCRoundCongratulationsGui.h"
+#include "znhogcore/components/gui/znCRoundScoreGui.h"
+#include "znhogcore/components/znCBonusEntityCountComponent.h"
 #include "znhogcore/components/znCHotComponent.h"
 #include "znhogcore/components/znCLockComponent.h"
+#include "znhogcore/components/znIMinigameComponent.h"
+#include "znhogcore/src/znCCollectionEffectFactory.h"
 #include "znhogcore/src/znCHogCoreMain.h"
 #include "znhogcore/src/znCHogMessageDispatcher.h"
+#include "znhogcore/src/znCHogUserSavedData.h"
 
 namespace
 {
@@ -20,7 +26,6 @@ constexpr znCUniqueId MESSAGES[] = {
     znCHogMessageDispatcher::CONVERSATION_COMPLETE,
 };
 constexpr char CONVERSATION_AFTER[] = "-post";
-constexpr char ROUND_SCORE_NAME[] = "roundScoreGui";
 constexpr char REWARD_LAYOUT_KEY[] = "rewardLayoutFile"; // of the level's table and of the application's settings
 } // namespace
 
@@ -48,7 +53,7 @@ bool znCHogLevel::messageProcess(const znCUniqueId& pType, void* pData)
     if (pType == znCHogMessageDispatcher::CONTINUE_GAME)
     {
         levelEndProcess();
-        mContinuePending = true;
+        mContinuePending = true; // also while a conversation holds the end up
         return true;
     }
     if (pType == znCHogMessageDispatcher::REPLAY_LEVEL)
@@ -62,17 +67,29 @@ bool znCHogLevel::messageProcess(const znCUniqueId& pType, void* pData)
             levelNext();
         return false;
     }
-    if (pType == znCScreenFade::FADE_OUT_COMPLETE && mContinuePending)
-    {
-        levelReset();
-        mContinuePending = false;
-    }
+    if (pType == znCScreenFade::FADE_OUT_COMPLETE)
+        wonStateClear();
     return znIHogLevel::messageProcess(pType, pData);
+}
+
+// A level that has been paid for is never stored as one that can still be won for it, however the player left.
+void znCHogLevel::wonStateClear()
+{
+    const std::string next = nextLevelGet();
+    if (!mContinuePending && !roundScoreStands())
+        return;
+    if (!mContinuePending && !next.empty())
+        znCHogUserSavedData::instanceGet()->currentLevelSet(next);
+    levelReset();
+    mContinuePending = false;
 }
 
 void znCHogLevel::levelInitialise()
 {
     nonPickListCollectableEntitiesActivate();
+    minigameEntitiesInitialise();
+    componentAdd<znCBonusEntityCountComponent>();
+    componentAdd<znCRoundCongratulationsGui>();
 }
 
 void znCHogLevel::nonPickListCollectableEntitiesActivate()
@@ -84,6 +101,18 @@ void znCHogLevel::nonPickListCollectableEntitiesActivate()
         if (collectable != nullptr)
             collectable->activate();
     }
+}
+
+void znCHogLevel::minigameEntitiesInitialise()
+{
+    for (const znCEntity* entity : entitiesWithKindGet<znIMinigameComponent>())
+        entity->componentFind<znIMinigameComponent>()->minigameInitialise(mVariables);
+}
+
+void znCHogLevel::skipDo()
+{
+    for (const znCEntity* entity : entitiesWithKindGet<znIMinigameComponent>())
+        entity->componentFind<znIMinigameComponent>()->minigameSkip();
 }
 
 void znCHogLevel::levelEndProcess()
@@ -104,13 +133,19 @@ bool znCHogLevel::roundScoreOpen()
         znIGuiComponent::guiCreateFromFile(znCResourceName(file, znCResourceName::GAME_DATA), nullptr, true);
     if (roundScore == nullptr)
         return false; // a level must not end in a file that is missing
+    if (roundScore->childFind(znCRoundScoreGui::NAME) == nullptr)
+    {
+        // It couldn't be found again, and would be opened and paid for each time the player goes on.
+        ZN_LOG("The round score in %s must be named %s.\n", file.c_str(), znCRoundScoreGui::NAME);
+        roundScore->nameSet(znCRoundScoreGui::NAME);
+    }
     parentGet()->childAdd(roundScore);
     return true;
 }
 
 bool znCHogLevel::roundScoreStands() const
 {
-    return parentGet()->childFind(ROUND_SCORE_NAME) != nullptr;
+    return parentGet()->childFind(znCRoundScoreGui::NAME) != nullptr;
 }
 
 void znCHogLevel::shutDownStateFix()
@@ -124,6 +159,7 @@ void znCHogLevel::shutDownStateFix()
 
 void znCHogLevel::levelNext()
 {
+    mContinuePending = true;
     const std::string next = nextLevelGet();
     if (next.empty())
         ZN_LOG("No screen follows: the table %s.txt names none as %s.\n", (mLevelFolder + mLevelName).c_str(),
@@ -135,8 +171,10 @@ void znCHogLevel::levelNext()
 // Everybody clears on the first message; on the second all others are clear already.
 void znCHogLevel::levelReset()
 {
+    znCCollectionEffectFactory::instanceGet()->effectsCancel();
     znCHogMessageDispatcher* game = znCHogMessageDispatcher::instanceGet();
     game->messageSend(znCHogMessageDispatcher::RESET_LEVEL, znCEmptyMessageData::sharedGet());
     game->messageSend(znCHogMessageDispatcher::POST_RESET_LEVEL, znCEmptyMessageData::sharedGet());
     nonPickListCollectableEntitiesActivate();
+    minigameEntitiesInitialise();
 }

@@ -15,19 +15,23 @@ public:
     bool messageProcess(const znCUniqueId& pType, void* pData) override;
 
     void shutDownStateFix() override;
+    void skipDo() override;
     void levelInitialise() override;
 
     // Locks and hot objects can be collected from the first moment; all others wait for a pick list.
     void nonPickListCollectableEntitiesActivate();
+    // Sets up all pieces of minigames.
+    void minigameEntitiesInitialise();
 
 private:
     void levelEndProcess();
+    void wonStateClear();
     bool roundScoreOpen();
     bool roundScoreStands() const;
     void levelNext();
     void levelReset();
 
-    bool mContinuePending = false; // the scene is reset at the end of the fade
+    bool mContinuePending = false; // won and left: the scene is reset at the end of the fade
 };
 
 #endif

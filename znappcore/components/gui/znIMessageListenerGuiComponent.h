@@ -9,7 +9,10 @@
 class znIMessageListenerGuiComponent : public znIGuiComponent, public znIMessageListener
 {
 public:
-    explicit znIMessageListenerGuiComponent(znCEntity* pEntity) : znIGuiComponent(pEntity) {}
+    explicit znIMessageListenerGuiComponent(znCEntity* pEntity, s32 pPriority = 0)
+        : znIGuiComponent(pEntity), znIMessageListener(pPriority)
+    {
+    }
 };
 
 #endif
