@@ -19,6 +19,7 @@
 #include "znhogcore/components/znCSubSceneComponent.h"
 #include "znhogcore/src/znCHogCoreMain.h"
 #include "znhogcore/src/znCHogLevel.h"
+#include "znhogcore/src/znCHogMapLevel.h"
 #include "znhogcore/src/znCHogMessageDispatcher.h"
 #include "znhogcore/src/znCHogUserSavedData.h"
 
@@ -41,6 +42,14 @@ constexpr s32 PLACING_STEP_MS = 1;
 constexpr char HINT_EFFECT_NAME[] = "HintEffect";
 constexpr char HINT_PARTICLES[] = "particles/pHint.txt";
 constexpr s32 HINT_MS = 4000;
+
+template <class T>
+T* levelAdd()
+{
+    auto* level = new T; // owned by the tree
+    znCHogCoreMain::instanceGet()->appDisplayChildAdd(level);
+    return level;
+}
 } // namespace
 
 znIHogLevel::znIHogLevel() : znIMessageListenerEntity(NAME) {}
@@ -51,9 +60,9 @@ void znIHogLevel::create(const std::string& pName)
     ZN_ASSERT(!standing, "Already created.\n");
     if (standing)
         return;
-    auto* level = new znCHogLevel; // owned by the tree
-    znCHogCoreMain::instanceGet()->appDisplayChildAdd(level);
-    level->componentAdd<znCLevelCompleteCheckerComponent>();
+    znIHogLevel* level = pName == znCHogCoreMain::MAP ? levelAdd<znCHogMapLevel>() : levelAdd<znCHogLevel>();
+    if (pName != znCHogCoreMain::MAP)
+        level->componentAdd<znCLevelCompleteCheckerComponent>();
     level->messagesRegister();
     level->levelLoad(pName);
     level->soundStart();

@@ -36,20 +36,19 @@ def letter():
 
 def offer():
     """The corner panel of the map: a picture to the left, words to the right."""
-    body = board(380, 250, 0)
-    save("gui/maphud/offer.png", 380, 250, body, colours=256)
+    save("gui/maphud/offer.png", 440, 270, board(440, 270, 0), colours=256)
 
 
 def frame():
-    body = f'<g filter="url(#deep)"><rect x="6" y="6" width="244" height="204" fill="{INK}"/></g>' + rim("M9 9H247V207H9Z", 9)
-    for x, y, turn in ((8, 8, 0), (248, 8, 90), (248, 208, 180), (8, 208, 270)):
+    body = f'<g filter="url(#deep)"><rect x="6" y="6" width="196" height="152" fill="{INK}"/></g>' + rim("M10 10H198V154H10Z", 9)
+    for x, y, turn in ((8, 8, 0), (200, 8, 90), (200, 156, 180), (8, 156, 270)):
         body += brass_corner(x, y, 22, turn)
-    save("gui/maphud/frame.png", 260, 220, body, colours=128)
+    save("gui/maphud/frame.png", 212, 168, body, colours=128)
 
 
 def blank():
     """The picture of a place that has none: paper with a petrel's flourish."""
-    save("gui/maphud/thumbnail_none.png", 140, 110, sheet(0, 0, 140, 110, 2) + flourish(70, 55, 44), colours=64)
+    save("gui/maphud/thumbnail_none.png", 180, 136, sheet(0, 0, 180, 136, 2) + flourish(90, 68, 60), colours=64)
 
 
 def close(name, fill, metal):

@@ -7,6 +7,7 @@
 #include "znappcore/src/znCGlobalSavedData.h"
 #include "znappcore/src/znCProfileManager.h"
 #include "znappcore/src/znCScreenFade.h"
+#include "znhogcore/src/znCHogUserSavedData.h"
 
 namespace
 {
@@ -28,8 +29,8 @@ protected:
     {
         imageSet("button.png", 40, 20);
         mPlatform.mFiles.fileSet("gui/test.txt", pText);
-        znCEntity* gui = znIGuiComponent::guiCreateFromFile(
-            znCResourceName("gui/test.txt", znCResourceName::GAME_DATA), nullptr, true);
+        znCEntity* gui = znIGuiComponent::guiCreateFromFile(znCResourceName("gui/test.txt", znCResourceName::GAME_DATA),
+                                                            nullptr, true);
         znCHogCoreMain::instanceGet()->appDisplayChildAdd(gui);
         mGui = gui;
         frame();
@@ -47,7 +48,7 @@ protected:
         frame();
     }
     static znCGlobalSavedData& global() { return *znCGlobalSavedData::instanceGet(); }
-    static znCUserSavedData& user() { return *znCUserSavedData::instanceGet(); }
+    static znCHogUserSavedData& user() { return *znCHogUserSavedData::instanceGet(); }
 
     znCEntity* mGui = nullptr;
 };
@@ -62,12 +63,13 @@ protected:
                                      button("ConfirmBoxYesButton") + button("ConfirmBoxNoButton") + "}\n");
         std::string slots;
         for (s32 i = 0; i < 3; ++i)
-            slots += "znCPlayerSlotGui {\n name = ChoosePlayerProfile" + std::to_string(i) + "\n posY = " +
-                     std::to_string(i * 40) + "\n" + text("PlayerSlotNameText") + button("Slot" + std::to_string(i)) +
-                     "}\n";
-        guiOpen("znCChoosePlayerGui {\n name = Choose\n znCSpriteComponent { name = ChoosePlayerHighlight posX = 7 }\n" +
-                slots + button("ChoosePlayerNewButton") + button("ChoosePlayerDeleteButton") +
-                button("ChoosePlayerOKButton") + "}\n");
+            slots += "znCPlayerSlotGui {\n name = ChoosePlayerProfile" + std::to_string(i) +
+                     "\n posY = " + std::to_string(i * 40) + "\n" + text("PlayerSlotNameText") +
+                     button("Slot" + std::to_string(i)) + "}\n";
+        guiOpen(
+            "znCChoosePlayerGui {\n name = Choose\n znCSpriteComponent { name = ChoosePlayerHighlight posX = 7 }\n" +
+            slots + button("ChoosePlayerNewButton") + button("ChoosePlayerDeleteButton") +
+            button("ChoosePlayerOKButton") + "}\n");
     }
 
     static void playersMake(const std::string& pNames)
@@ -85,8 +87,7 @@ protected:
             const auto* slot = widget("ChoosePlayerProfile" + std::to_string(i));
             if (!slot->activeGet())
                 continue;
-            const auto* name = dynamic_cast<znCEntity*>(
-                const_cast<znCEntity*>(slot)->childFind("PlayerSlotNameText"));
+            const auto* name = dynamic_cast<znCEntity*>(const_cast<znCEntity*>(slot)->childFind("PlayerSlotNameText"));
             std::string shown = name->componentFind<znCTextSpriteComponent>()->textGet();
             if (i == global().currentProfileGet())
                 shown[0] = static_cast<char>(std::toupper(shown[0]));
@@ -110,16 +111,9 @@ TEST_F(znCChoosePlayerGuiTest, choosesAndDeletes)
         const char* mList;
     };
     const Case cases[] = {
-        {"", "", " N -"},
-        {"a", "", "A NDO 0"},
-        {"abc", "", "abC DO 80"},
-        {"abc", "0", "Abc DO 0"},
-        {"abc", "dn", "abC DO 80"},
-        {"abc", "dy", "aB NDO 40"},
-        {"abc", "0dy", "Bc NDO 0"},
-        {"abc", "1dy", "aC NDO 40"},
-        {"a", "dy", " N -"},
-        {"ab", "0dydy", " N -"},
+        {"", "", " N -"},           {"a", "", "A NDO 0"},       {"abc", "", "abC DO 80"},   {"abc", "0", "Abc DO 0"},
+        {"abc", "dn", "abC DO 80"}, {"abc", "dy", "aB NDO 40"}, {"abc", "0dy", "Bc NDO 0"}, {"abc", "1dy", "aC NDO 40"},
+        {"a", "dy", " N -"},        {"ab", "0dydy", " N -"},
     };
     for (const Case& c : cases)
     {
@@ -142,12 +136,12 @@ TEST_F(znCChoosePlayerGuiTest, choosesAndDeletes)
 TEST_F(znCChoosePlayerGuiTest, keepsEveryPlayersProgressApart)
 {
     playersMake("ab");
-    user().strSet(znCHogCoreMain::CURRENT_LEVEL_KEY, "quay");
+    user().strSet(znCHogUserSavedData::CURRENT_LEVEL, "quay");
     open();
     click("Slot0");
-    EXPECT_EQ(user().strGet(znCHogCoreMain::CURRENT_LEVEL_KEY), "");
+    EXPECT_EQ(user().strGet(znCHogUserSavedData::CURRENT_LEVEL), "");
     click("Slot1");
-    EXPECT_EQ(user().strGet(znCHogCoreMain::CURRENT_LEVEL_KEY), "quay");
+    EXPECT_EQ(user().strGet(znCHogUserSavedData::CURRENT_LEVEL), "quay");
     click("ChoosePlayerOKButton");
     EXPECT_EQ(znCHogCoreMain::instanceGet()->appDisplayChildFind("Choose"), nullptr);
     EXPECT_EQ(global().currentProfileGet(), 1);
@@ -179,17 +173,17 @@ TEST_F(menusTest, leavesALevelForTheMainMenu)
         SCOPED_TRACE(c.mComponent);
         sceneOpen("quay");
         frame(FADE_FRAMES);
-        user().strSet(znCHogCoreMain::MAP_LEVEL_KEY, "shop");
+        user().strSet(znCHogUserSavedData::MAP_LEVEL, "shop");
         znCEntity* gui = guiOpen(c.mComponent + std::string(" {\n name = Menu\n") + button(c.mButton) + "}\n");
         click(c.mButton);
         frame(FADE_FRAMES);
         EXPECT_EQ(znIHogLevel::levelGet(), nullptr);
         EXPECT_NE(znCHogCoreMain::instanceGet()->appDisplayChildFind("Title"), nullptr);
-        EXPECT_EQ(user().strGet(znCHogCoreMain::CURRENT_LEVEL_KEY), c.mCurrentLevel);
+        EXPECT_EQ(user().strGet(znCHogUserSavedData::CURRENT_LEVEL), c.mCurrentLevel);
         gui->destroy();
         frame();
     }
-    EXPECT_EQ(user().strGet(znCHogCoreMain::MAP_LEVEL_KEY), "");
+    EXPECT_EQ(user().strGet(znCHogUserSavedData::MAP_LEVEL), "");
 }
 
 TEST_F(menusTest, showsTheHighScores)

@@ -1,6 +1,7 @@
 // The map: what shows follows from the player's data, and a press on a place leads on.
 
 #include "znhogcore/src/znCHogMapLevel.h"
+#include "znhogcore/src/znCHogUserSavedData.h"
 
 #include "tests/znhogcore/znCHogTest.h"
 #include "znappcore/components/gui/elements/znCButtonComponent.h"
@@ -17,7 +18,7 @@ constexpr s32 FADE_FRAMES = 500 / 16 + 5;
 class znCHogMapLevelTest : public znCHogTest
 {
 protected:
-    static znCUserSavedData& user() { return *znCUserSavedData::instanceGet(); }
+    static znCHogUserSavedData& user() { return *znCHogUserSavedData::instanceGet(); }
 
     // Places of the scenes quay (left), shop (middle) and cabin (right), each with its three masks.
     void mapSet(const std::string& pTable = "")
@@ -27,13 +28,17 @@ protected:
         for (const char* scene : {"quay", "shop", "cabin"})
         {
             const std::string at = "," + std::to_string(x) + ",0\n";
-            coords += std::string("MASK-") + scene + "-r.png" + at + "MASK-" + scene + "-p.png" + at + "MASK-" +
-                      scene + "-g.png" + at + "NAV-" + scene + ".png" + at;
+            coords += std::string("MASK-") + scene + "-r.png" + at + "MASK-" + scene + "-p.png" + at + "MASK-" + scene +
+                      "-g.png" + at + "NAV-" + scene + ".png" + at;
             x += 200;
         }
         sceneSet("map", coords, pTable);
         for (const char* medal : {"gold", "silver", "bronze"})
-            imageSet(std::string("gui/maphud/mapstars/") + medal + ".png", *medal == 'g' ? 10 : *medal == 's' ? 8 : 6, 6);
+            imageSet(std::string("gui/maphud/mapstars/") + medal + ".png",
+                     *medal == 'g'   ? 10
+                     : *medal == 's' ? 8
+                                     : 6,
+                     6);
         const std::string button = "znCButtonComponent { buttonImage = \"button.png\" ";
         const std::string text = "znCTextSpriteComponent { font = f.ttf fontSize = 20 ";
         imageSet("button.png", 40, 20);
@@ -43,9 +48,9 @@ protected:
                                  "znCMapPopUpFVGui {\n name = FirstVisit\n" + text + "name = GUIMapSceneNameText }\n" +
                                      button + "name = GUIMapContinueButton }\n}\n");
         mPlatform.mFiles.fileSet("gui/maphud/scenepopup/scenepopup.txt",
-                                 "znCMapPopUpGui {\n name = Results\n" + text + "name = ScenePopupTrashText }\n" + text +
-                                     "name = ScenePopupLostFoundText }\n" + text + "name = ScenePopupPerfectText }\n" +
-                                     button + "name = ScenePopupGoButton }\n}\n");
+                                 "znCMapPopUpGui {\n name = Results\n" + text + "name = ScenePopupTrashText }\n" +
+                                     text + "name = ScenePopupLostFoundText }\n" + text +
+                                     "name = ScenePopupPerfectText }\n" + button + "name = ScenePopupGoButton }\n}\n");
     }
 
     void mapOpen()
@@ -74,9 +79,7 @@ protected:
 
     std::string textOf(const char* pName)
     {
-        return dynamic_cast<znCEntity*>(level().childFind(pName))
-            ->componentFind<znCTextSpriteComponent>()
-            ->textGet();
+        return dynamic_cast<znCEntity*>(level().childFind(pName))->componentFind<znCTextSpriteComponent>()->textGet();
     }
 
     // Plays a scene of one bonus item of each kind, of which the first pCollected are found, and leaves it.
@@ -119,12 +122,13 @@ TEST_F(znCHogMapLevelTest, showsWhatThePlayerHasReached)
         user().progressClear();
         if (*c.mVisited != 0)
             user().strSet(std::string("LevDat:") + c.mVisited, ""); // visited, whatever is stored
-        user().strSet(znCHogCoreMain::MAP_LEVEL_KEY, c.mOffer);
+        user().strSet(znCHogUserSavedData::MAP_LEVEL, c.mOffer);
         mapOpen();
         EXPECT_EQ(shownGet("quay") + "," + shownGet("shop") + "," + shownGet("cabin"), c.mShown);
         for (const char* scene : {"quay", "shop", "cabin"})
-            EXPECT_EQ(find(std::string("NAV-") + scene + ".png")->componentGet<znCNavigateComponent>()->navigateActiveGet(),
-                      shown(std::string("NAV-") + scene + ".png"));
+            EXPECT_EQ(
+                find(std::string("NAV-") + scene + ".png")->componentGet<znCNavigateComponent>()->navigateActiveGet(),
+                shown(std::string("NAV-") + scene + ".png"));
         levelEnd();
     }
 }
@@ -139,13 +143,14 @@ TEST_F(znCHogMapLevelTest, givesMedalsForBonusItems)
         user().progressClear();
         sceneVisit("quay", found);
         EXPECT_EQ(znCHogMapLevel::medalGet("quay"), medals[found]);
-        user().strSet(znCHogCoreMain::MAP_LEVEL_KEY, "shop");
+        user().strSet(znCHogUserSavedData::MAP_LEVEL, "shop");
         mapOpen();
         EXPECT_EQ(find("MASK-quay-p.png")->componentGet<znCSpriteComponent>()->widthGet(), widths[found]);
         tap(-200, 0);
         ASSERT_NE(level().childFind("Results"), nullptr);
         EXPECT_EQ(textOf("ScenePopupTrashText"), "trashInfo" + std::string(found > 0 ? "1" : "0") + "numOfNum1");
-        EXPECT_EQ(textOf("ScenePopupLostFoundText"), "lostFoundInfo" + std::string(found > 1 ? "1" : "0") + "numOfNum1");
+        EXPECT_EQ(textOf("ScenePopupLostFoundText"),
+                  "lostFoundInfo" + std::string(found > 1 ? "1" : "0") + "numOfNum1");
         EXPECT_EQ(textOf("ScenePopupPerfectText"), found == 2 ? "perfect" : "");
         errorsTake(); // strings that this test leaves out
         linesTake();
@@ -180,7 +185,7 @@ TEST_F(znCHogMapLevelTest, leadsIntoScenes)
         user().progressClear();
         if (c.mOffer != std::string("shop"))
             user().strSet("LevDat:shop", "");
-        user().strSet(znCHogCoreMain::MAP_LEVEL_KEY, c.mOffer);
+        user().strSet(znCHogUserSavedData::MAP_LEVEL, c.mOffer);
         mapOpen();
         tap(0, 0);
         ASSERT_NE(level().childFind(c.mPopUp), nullptr);
@@ -189,7 +194,7 @@ TEST_F(znCHogMapLevelTest, leadsIntoScenes)
         errorsTake();
         frame(2 * FADE_FRAMES);
         EXPECT_EQ(level().levelNameGet(), c.mLevel);
-        EXPECT_EQ(user().strGet(znCHogCoreMain::MAP_LEVEL_KEY), c.mOfferThen);
+        EXPECT_EQ(user().strGet(znCHogUserSavedData::MAP_LEVEL), c.mOfferThen);
         levelEnd();
         linesTake();
     }
@@ -198,7 +203,7 @@ TEST_F(znCHogMapLevelTest, leadsIntoScenes)
 TEST_F(znCHogMapLevelTest, pulsesTheSceneOnOffer)
 {
     mapSet();
-    user().strSet(znCHogCoreMain::MAP_LEVEL_KEY, "quay");
+    user().strSet(znCHogUserSavedData::MAP_LEVEL, "quay");
     mapOpen();
     const auto* glow = find("MASK-quay-g.png")->componentGet<znCSpriteComponent>();
     float low = 1.0f;

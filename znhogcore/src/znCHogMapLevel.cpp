@@ -37,7 +37,7 @@ constexpr float GLOW_MIDDLE = 0.75f;
 
 std::string offerGet()
 {
-    return znCHogUserSavedData::instanceGet()->strGet(znCHogCoreMain::MAP_LEVEL_KEY);
+    return znCHogUserSavedData::instanceGet()->strGet(znCHogUserSavedData::MAP_LEVEL);
 }
 
 // The scene that an entity's base name speaks of: what stands between its first and its last "-".
@@ -107,7 +107,7 @@ void znCHogMapLevel::postLoadDo()
     rollOversSet();
     znCHogMessageDispatcher::instanceGet()->messageSend(znCHogMessageDispatcher::ADDED_ENTRY,
                                                         znCEmptyMessageData::sharedGet());
-    znCHogUserSavedData::instanceGet()->strSet(SAVED_STATE_KEY + mLevelName, "");
+    znCHogUserSavedData::instanceGet()->strSet(znCHogUserSavedData::LEVEL_STATE + mLevelName, "");
 }
 
 void znCHogMapLevel::spritesSet()
@@ -155,12 +155,9 @@ void znCHogMapLevel::medalSet(znCEntity* pEntity, const std::string& pScene)
 
 void znCHogMapLevel::rollOversSet()
 {
-    for (znCEntity* entity : entitiesWithComponentsGet({&typeid(znCRollOverGui), &typeid(znCRollOverSubSceneGui)}))
-        if (auto* rollOver = entity->componentFind<znCRollOverGui>())
-        {
-            rollOver->rollOverEntriesSet(mRollOvers);
-            return;
-        }
+    const std::vector<znCEntity*> captions = entitiesWithKindGet<znCRollOverGui>();
+    if (!captions.empty())
+        captions.front()->componentFind<znCRollOverGui>()->rollOverEntriesSet(mRollOvers);
 }
 
 void znCHogMapLevel::popUpOpen(const std::string& pTarget)

@@ -10,10 +10,8 @@
 //
 // Keys of its table: scene + "Override", the level to open instead of the scene on offer.
 
-#include "znhogcore/components/gui/znCRollOverGui.h"
+#include "znappcore/components/gui/znCRollOverGui.h"
 #include "znhogcore/znIHogLevel.h"
-
-class znCNameComponent;
 
 class znCHogMapLevel : public znIHogLevel
 {

@@ -2,8 +2,8 @@
 
 #include "znappcore/components/gui/elements/znCButtonComponent.h"
 #include "znappcore/src/znCEntity.h"
-#include "znappcore/src/znCUserSavedData.h"
 #include "znhogcore/src/znCHogCoreMain.h"
+#include "znhogcore/src/znCHogUserSavedData.h"
 #include "znhogcore/znIHogLevel.h"
 
 namespace
@@ -13,13 +13,13 @@ constexpr char CONTINUE[] = "endScreenGUIContinueButton";
 
 bool znCEndMenuGui::onButtonClicked(znCButtonComponent* pButton)
 {
-    znCUserSavedData* user = znCUserSavedData::instanceGet();
+    znCHogUserSavedData* user = znCHogUserSavedData::instanceGet();
     if (pButton->entityGet()->nameGet() != CONTINUE ||
-        user->strGet(znCHogCoreMain::CURRENT_LEVEL_KEY) == NO_MORE_LEVELS)
+        user->strGet(znCHogUserSavedData::CURRENT_LEVEL) == NO_MORE_LEVELS)
         return false;
     if (znIHogLevel* level = znIHogLevel::levelGet())
         level->levelQuit();
-    user->strSet(znCHogCoreMain::CURRENT_LEVEL_KEY, NO_MORE_LEVELS);
-    user->strSet(znCHogCoreMain::MAP_LEVEL_KEY, "");
+    user->strSet(znCHogUserSavedData::CURRENT_LEVEL, NO_MORE_LEVELS);
+    user->strSet(znCHogUserSavedData::MAP_LEVEL, "");
     return true;
 }

@@ -6,11 +6,11 @@
 #include "znappcore/components/znCTextSpriteComponent.h"
 #include "znappcore/src/znCBrushManager.h"
 #include "znappcore/src/znCLocalisedStrings.h"
-#include "znappcore/src/znCUserSavedData.h"
 #include "zncore/znCResourceName.h"
 #include "zncore/znIFile.h"
 #include "znhogcore/components/gui/znCPauseMenuGui.h"
 #include "znhogcore/src/znCHogCoreMain.h"
+#include "znhogcore/src/znCHogUserSavedData.h"
 
 namespace
 {
@@ -27,7 +27,7 @@ constexpr char DESCRIPTION[] = "-desc"; // behind the scene's name: key of its t
 void znCMapGui::initialiseFromVariableTableDo(const znCVariableTable& pTable)
 {
     znIGuiComponent::initialiseFromVariableTableDo(pTable);
-    const std::string offer = znCUserSavedData::instanceGet()->strGet(znCHogCoreMain::MAP_LEVEL_KEY);
+    const std::string offer = znCHogUserSavedData::instanceGet()->strGet(znCHogUserSavedData::MAP_LEVEL);
     const bool offering = !offer.empty() && offer != NO_MORE_NEW_LEVELS;
     znNGuiChildren::activeSet(*this, CONTINUE, offering);
     znNGuiChildren::activeSet(*this, PANEL, offering);

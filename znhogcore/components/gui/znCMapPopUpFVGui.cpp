@@ -6,11 +6,11 @@
 #include "znappcore/src/znCBrushManager.h"
 #include "znappcore/src/znCLocalisedStrings.h"
 #include "znappcore/src/znCScreenFade.h"
-#include "znappcore/src/znCUserSavedData.h"
 #include "zncore/znCResourceName.h"
 #include "znhogcore/components/gui/znCMapGui.h"
 #include "znhogcore/src/znCHogCoreMain.h"
 #include "znhogcore/src/znCHogMapLevel.h"
+#include "znhogcore/src/znCHogUserSavedData.h"
 
 namespace
 {
@@ -44,7 +44,7 @@ bool znCMapPopUpFVGui::onButtonClicked(znCButtonComponent* pButton)
     if (!next.empty())
     {
         znCHogCoreMain::instanceGet()->nextScreenSet(next);
-        znCUserSavedData::instanceGet()->strSet(znCHogCoreMain::MAP_LEVEL_KEY, "");
+        znCHogUserSavedData::instanceGet()->strSet(znCHogUserSavedData::MAP_LEVEL, "");
     }
     return true;
 }

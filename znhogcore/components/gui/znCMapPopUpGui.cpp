@@ -4,11 +4,11 @@
 #include "znappcore/components/gui/znNGuiChildren.h"
 #include "znappcore/src/znCLocalisedStrings.h"
 #include "znappcore/src/znCScreenFade.h"
-#include "znappcore/src/znCUserSavedData.h"
 #include "znappcore/znINode.h"
 #include "znhogcore/components/znCBonusEntityCountComponent.h"
 #include "znhogcore/src/znCHogCoreMain.h"
 #include "znhogcore/src/znCHogMapLevel.h"
+#include "znhogcore/src/znCHogUserSavedData.h"
 
 namespace
 {
@@ -50,7 +50,7 @@ bool znCMapPopUpGui::onButtonClicked(znCButtonComponent* pButton)
 void znCMapPopUpGui::levelStatsGet(const std::string& pLevel, s32& pBonusCollected, s32& pBonusTotal,
                                    s32& pSilhouetteCollected, s32& pSilhouetteTotal)
 {
-    std::string state = znCUserSavedData::instanceGet()->strGet(znIHogLevel::SAVED_STATE_KEY + pLevel);
+    std::string state = znCHogUserSavedData::instanceGet()->strGet(znCHogUserSavedData::LEVEL_STATE + pLevel);
     const std::size_t marker = state.find(znCBonusEntityCountComponent::markerGet());
     if (marker == std::string::npos)
         return;
