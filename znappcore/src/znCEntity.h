@@ -90,7 +90,6 @@ T* znCEntity::componentFind() const
     return nullptr;
 }
 
-#endif
 template <class T>
 std::vector<znCEntity*> znCEntity::entitiesWithKindGet()
 {
@@ -109,3 +108,4 @@ void znCEntity::kindCollect(znINode& pNode, std::vector<znCEntity*>& pFound)
         pFound.push_back(entity);
 }
 
+#endif
