@@ -29,16 +29,12 @@ constexpr char GUI_FILE_MARK[] = ".txt";
 constexpr std::size_t LEVEL_NAME_SHORT = 3; // no file's name is as short
 constexpr char MISSING_SCREEN_TEXT[] = "missingscreen";
 
-bool guiFileNameGet(const std::string& pScreen)
-{
-    return pScreen.size() > LEVEL_NAME_SHORT && pScreen.find(GUI_FILE_MARK) != std::string::npos;
-}
-
 // The file without which nothing of the screen can be shown.
 std::string screenFileGet(const std::string& pScreen)
 {
-    return guiFileNameGet(pScreen) ? pScreen
-                                   : znIHogLevel::folderOfGet(pScreen) + znCHogLevelLoaderComponent::COORDS_FILE;
+    return znCHogCoreMain::guiFileNameGet(pScreen)
+               ? pScreen
+               : znIHogLevel::folderOfGet(pScreen) + znCHogLevelLoaderComponent::COORDS_FILE;
 }
 
 bool screenExistsGet(const std::string& pScreen)
@@ -56,6 +52,11 @@ void znCHogCoreMain::savedDataCreate()
 {
     znCHogGlobalSavedData::create();
     znCHogUserSavedData::create();
+}
+
+bool znCHogCoreMain::guiFileNameGet(const std::string& pScreen)
+{
+    return pScreen.size() > LEVEL_NAME_SHORT && pScreen.find(GUI_FILE_MARK) != std::string::npos;
 }
 
 void znCHogCoreMain::messageDispatchersDestroy()

@@ -26,6 +26,8 @@ public:
     static znCHogCoreMain* instanceGet();
 
     // Makes pScreen the pending screen. The map with a target is just the map, which offers the target unless it has an
+    static bool guiFileNameGet(const std::string& pScreen); // whether the screen of that name is a GUI file
+
     // offer already; going to the very level that it offers takes the offer away.
     void nextScreenSet(const std::string& pScreen);
     // The same, and play continues there after the next start.

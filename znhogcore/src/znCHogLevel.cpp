@@ -72,16 +72,17 @@ bool znCHogLevel::messageProcess(const znCUniqueId& pType, void* pData)
     return znIHogLevel::messageProcess(pType, pData);
 }
 
-// A level that has been paid for is never stored as one that can still be won for it, however the player left.
+// A level that has been paid for is never stored as one that can still be won for it, however the player left. Play
+// goes on behind it even if the program ends before the next level stands.
 void znCHogLevel::wonStateClear()
 {
-    const std::string next = nextLevelGet();
     if (!mContinuePending && !roundScoreStands())
         return;
-    if (!mContinuePending && !next.empty())
-        znCHogUserSavedData::instanceGet()->currentLevelSet(next);
     levelReset();
     mContinuePending = false;
+    const std::string next = nextLevelGet();
+    if (!next.empty() && !znCHogCoreMain::guiFileNameGet(next))
+        znCHogUserSavedData::instanceGet()->currentLevelSet(next);
 }
 
 void znCHogLevel::levelInitialise()
