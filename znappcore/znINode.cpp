@@ -551,10 +551,13 @@ void znINode::treeLoad(std::string& pIn)
 void znINode::treeLoadFrom(std::string& pIn, std::size_t& pCursor)
 {
     std::string section = sectionCut(pIn, pCursor);
+    const std::size_t standing = mChildren.size();
     myLoad(section);
     std::size_t cursor = 0;
+    // What comes up while the others load may be new since the save, and must not read what belongs to others.
     for (std::size_t i = 0; i < mChildren.size(); ++i)
-        mChildren[i]->treeLoadFrom(section, cursor);
+        if (i < standing || section.find(mChildren[i]->saveKeyGet(), cursor) != std::string::npos)
+            mChildren[i]->treeLoadFrom(section, cursor);
     myPostLoad();
 }
 

@@ -102,7 +102,9 @@ public:
     // Once, when a tree of nodes is complete: initialiseDo() from the leaves up; listeners start to listen.
     void treeInitialise();
     void treeSave(std::string& pOut);
-    // Takes this node's section, and those of the nodes below it, out of pIn.
+    // Takes this node's section, and those of the nodes below it, out of pIn. A child that comes up meanwhile stays as
+    // it is if pIn has no section of its name. A text of another tree, say of an earlier state of the data, must be
+    // fitted first (znNSavedTree.h).
     void treeLoad(std::string& pIn);
 
     // --- set-up and saving ---

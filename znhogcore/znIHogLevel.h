@@ -38,6 +38,9 @@ public:
     void levelSkip();
     void levelQuit(); // to the main menu
     void levelStateStore();
+    // The same, but in the middle of play: changes nothing in the level, and nothing in the player's data if the level
+    // is as it was stored last.
+    void progressStore();
     // Sends sparkles from the hint button to pEntity, which stands in the current sub-scene, and ends the player's row
     // of levels without a hint.
     void hintShow(znCEntity* pEntity);
@@ -61,6 +64,7 @@ protected:
     znIHogLevel();
 
     void stateSave();
+    void stateKeep(const std::string& pState);
 
     std::vector<znCEntity*> mSubScenes; // by index; owned by the tree
     std::string mLevelName;
@@ -69,11 +73,13 @@ protected:
     s32 mTimePlayedMs = 0; // in this opening of the level
     s32 mTimeStoredMs = 0; // the part of it that the player's data has got
     bool mSkipped = false;
+    std::string mProgress; // of progressStore(), kept for its room
 
 private:
     void sceneLoad();
     void guiCreate();
     void savedStateLoad();
+    void stateRestore(const std::string& pSaved);
     void soundStart();
 };
 

@@ -183,6 +183,11 @@ void znCAppCoreMain::firstGuiLoad()
 
 void znCAppCoreMain::shutDownPrepare() {}
 
+void znCAppCoreMain::suspendPrepare()
+{
+    znCProfileManager::instanceGet()->changesSave();
+}
+
 void znCAppCoreMain::factoriesDestroy() {}
 
 void znCAppCoreMain::appUpdate(s32) {}

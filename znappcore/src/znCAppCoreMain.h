@@ -24,6 +24,8 @@ public:
     // frame that says so was drawn in full.
     bool frameUpdate(s32 pDeltaMs);
     void quitSet(bool pQuit);
+    // To be called when the system suspends the program, between frames.
+    void suspend() { suspendPrepare(); }
 
     // Adds a node under the root of all application content; the tree owns it from then on.
     void appDisplayChildAdd(znINode* pNode);
@@ -59,6 +61,8 @@ protected:
     // Called each frame after the tree, the deferred changes of the tree and the sound have had their turn.
     virtual void appUpdate(s32 pDeltaMs);
     virtual void factoriesCreate();
+    // The system suspends the program and may end it without a further word: saves what changed.
+    virtual void suspendPrepare();
 
     znINode* mAppDisplayNode = nullptr; // owned by the display node
     bool mQuit = false;

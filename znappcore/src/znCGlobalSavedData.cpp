@@ -93,6 +93,42 @@ std::string znCGlobalSavedData::profileFileTextGet(s32 pIndex) const
     return strGet(keyGet(PROFILE_FILE_NAME, pIndex));
 }
 
+bool znCGlobalSavedData::wholeGet() const
+{
+    if (s32Get(PROFILE_COUNT, 0) > profileCountGet())
+        return false;
+    for (s32 i = 0; i < profileCountGet(); ++i)
+        if (profileFileTextGet(i).empty())
+            return false;
+    return true;
+}
+
+void znCGlobalSavedData::profilesMend()
+{
+    const s32 named = s32Get(PROFILE_COUNT, 0);
+    const s32 current = currentProfileGet();
+    s32 count = 0;
+    for (s32 i = 0; i < profileCountGet(); ++i)
+    {
+        const std::string file = profileFileTextGet(i);
+        if (file.empty())
+            continue;
+        const std::string name = strGet(keyGet(PROFILE_NAME, i));
+        if (i == current)
+            currentProfileSet(count);
+        profileSet(count++, name.empty() ? file.substr(0, file.find('.')) : name, file);
+    }
+    if (count != named)
+    {
+        ZN_LOG("The list of players names %d players and has the files of %d.\n", named, count);
+        profileCountSet(count);
+    }
+    if (currentProfileGet() >= PROFILE_NONE && currentProfileGet() < count)
+        return;
+    ZN_LOG("The list of players lets player %d play, of %d.\n", currentProfileGet(), count);
+    currentProfileSet(count > 0 ? 0 : PROFILE_NONE);
+}
+
 void znCGlobalSavedData::profileSet(s32 pIndex, const std::string& pName, const std::string& pFileName)
 {
     strSet(keyGet(PROFILE_NAME, pIndex), pName);

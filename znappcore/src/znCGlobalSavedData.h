@@ -29,12 +29,16 @@ public:
     void profileSet(s32 pIndex, const std::string& pName, const std::string& pFileName);
     // The player's file name as it is stored; empty if there is none.
     std::string profileFileTextGet(s32 pIndex) const;
+    // Leaves out players without a file, gives those without a name that of their file, and has the first one play if
+    // a player plays who doesn't exist. Whatever it mends is in the log.
+    void profilesMend();
 
 protected:
     znCGlobalSavedData() = default;
     static bool existsGet();
     // Makes pInstance, a derived class's, the one instance, and fills it; destroy() deletes it.
     static void instanceSet(znCGlobalSavedData* pInstance);
+    bool wholeGet() const override; // all players have their files
 
 private:
     bool profileExists(s32 pIndex) const { return pIndex >= 0 && pIndex < profileCountGet(); }

@@ -29,6 +29,15 @@ znCUserSavedData& user()
     return *znCUserSavedData::instanceGet();
 }
 
+// False if there is a file that can't be read.
+bool savedLoad(znISavedData& pTable, const znCResourceName& pFile)
+{
+    const bool readable = pTable.savedFileLoad(pFile) != znCVariableTable::STATUS_READ_FAILED;
+    if (!readable)
+        ZN_LOG("The saved file %s can't be read; nothing is written over it.\n", pFile.nameGet().c_str());
+    return readable;
+}
+
 void guiMessageSend(const znCUniqueId& pType)
 {
     znCGuiMessageDispatcher::instanceGet()->messageSend(pType, znCEmptyMessageData::sharedGet());
@@ -70,13 +79,16 @@ znCProfileManager::~znCProfileManager()
 // player while it runs.
 void znCProfileManager::start()
 {
-    global().fileLoad(mGlobalFile);
+    mGlobalReadable = savedLoad(global(), mGlobalFile);
+    global().profilesMend();
     const s32 index = global().currentProfileGet();
     global().currentProfileSet(znCGlobalSavedData::PROFILE_NONE);
-    if (index == znCGlobalSavedData::PROFILE_NONE || !profileExists(index))
+    if (index == znCGlobalSavedData::PROFILE_NONE)
         settingsApply();
     else
         profileSelect(index);
+    mUserChanges = user().changeCountGet();
+    mGlobalChanges = global().changeCountGet();
 }
 
 bool znCProfileManager::profileExists(s32 pIndex) const
@@ -101,7 +113,8 @@ void znCProfileManager::profileSelect(s32 pIndex)
     userSave();
     global().currentProfileSet(pIndex);
     user().clear();
-    user().fileLoad(global().profileFileNameGet(pIndex));
+    mUserReadable = savedLoad(user(), global().profileFileNameGet(pIndex));
+    mUserChanges = user().changeCountGet();
     globalSave();
     settingsApply();
 }
@@ -112,10 +125,15 @@ void znCProfileManager::profileCreate(const std::string& pName)
     const s32 count = global().profileCountGet();
     if (count > 0)
         settingsCapture();
-    global().profileSet(count, pName, fileNameFreeGet());
+    const std::string fileName = fileNameFreeGet();
+    global().profileSet(count, pName, fileName);
+    // A file that a deleted player left must not stand in for this player's one day.
+    if (mGlobalReadable)
+        znIFile::fileDelete(znCResourceName(fileName, znCResourceName::USER_DATA));
     user().profileInitialise();
     if (mMusicVolume != 0.0f)
         settingsHandOn();
+    mUserReadable = true;
     global().currentProfileSet(count);
     global().profileCountSet(count + 1);
     if (pName == CHEAT_NAME)
@@ -131,7 +149,7 @@ void znCProfileManager::profileDelete(s32 pIndex)
     if (!profileExists(pIndex))
         return;
     settingsCapture();
-    znIFile::fileDelete(global().profileFileNameGet(pIndex));
+    const znCResourceName file = global().profileFileNameGet(pIndex);
     const s32 current = global().currentProfileGet();
     if (pIndex == current)
     {
@@ -143,7 +161,9 @@ void znCProfileManager::profileDelete(s32 pIndex)
     for (s32 i = pIndex; i + 1 < global().profileCountGet(); ++i)
         global().profileSet(i, global().profileNameGet(i + 1), global().profileFileTextGet(i + 1));
     global().profileCountSet(global().profileCountGet() - 1);
-    globalSave();
+    // The file goes only when nothing names it any more: a player is there whole, or not at all.
+    if (globalSave())
+        znIFile::fileDelete(file);
     slotsChangedSend();
 }
 
@@ -154,16 +174,31 @@ void znCProfileManager::dataSave()
     globalSave();
 }
 
-void znCProfileManager::userSave()
+void znCProfileManager::changesSave()
 {
-    const s32 current = global().currentProfileGet();
-    if (current != znCGlobalSavedData::PROFILE_NONE)
-        user().fileSave(global().profileFileNameGet(current));
+    if (user().changeCountGet() != mUserChanges)
+        userSave();
+    if (global().changeCountGet() != mGlobalChanges)
+        globalSave();
 }
 
-void znCProfileManager::globalSave()
+void znCProfileManager::userSave()
 {
-    global().fileSave(mGlobalFile);
+    mUserChanges = user().changeCountGet();
+    if (userSavable())
+        user().fileSave(global().profileFileNameGet(global().currentProfileGet()));
+}
+
+bool znCProfileManager::globalSave()
+{
+    mGlobalChanges = global().changeCountGet();
+    return mGlobalReadable && global().fileSave(mGlobalFile);
+}
+
+// Without the list of players nobody knows whose file is whose.
+bool znCProfileManager::userSavable() const
+{
+    return mGlobalReadable && mUserReadable && global().currentProfileGet() != znCGlobalSavedData::PROFILE_NONE;
 }
 
 void znCProfileManager::settingsCapture()

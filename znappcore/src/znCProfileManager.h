@@ -9,8 +9,10 @@
 // Moves the players' data between the two saved tables and the disk: "global.txt" names the players, and each has a
 // file "user" + number + ".txt". Keeps the settings that a new player inherits.
 //
-// A singleton, made when both saved tables exist; its end writes them once more and destroys them. A failed read leaves
-// a table empty or as it was, a failed write is in the log and leaves the file before it.
+// A singleton, made when both saved tables exist; its end writes them once more and destroys them. A damaged file is
+// replaced by the one saved before it; a failed read leaves a table empty or as it was, a failed write is in the log
+// and leaves the file before it. At no moment do the files name a player whose file was deleted. A file that is there
+// and can't be read is never written over: that player's progress, or with the global file nothing at all, isn't saved.
 class znCProfileManager
 {
 public:
@@ -36,6 +38,9 @@ public:
     void profileSelect(s32 pIndex);
     // Writes the global file and, if there is one, the current player's.
     void dataSave();
+    // The same for what has changed since it was last read or written. What could not be written is tried again with
+    // the next change.
+    void changesSave();
     // Applies the user table's settings to sound, cursor and display.
     void settingsApply();
     // Has letters shown at one of the text sizes of znCUserSavedData.
@@ -46,7 +51,8 @@ private:
     void start();
     bool profileExists(s32 pIndex) const;
     void userSave();
-    void globalSave();
+    bool globalSave();
+    bool userSavable() const;
     void settingsCapture();
     void settingsHandOn();
     std::string fileNameFreeGet() const;
@@ -59,6 +65,11 @@ private:
     bool mMuteAll = false;
     bool mCustomCursors = true;
     bool mFullScreen = true;
+    // Change counts of the tables when they were last read or written.
+    u32 mUserChanges = 0;
+    u32 mGlobalChanges = 0;
+    bool mUserReadable = true; // the current player's file
+    bool mGlobalReadable = true;
 };
 
 #endif

@@ -120,7 +120,17 @@ bool znCVariableTable::keyExistsGet(const std::string& pKey) const
 
 void znCVariableTable::strSet(const std::string& pKey, const std::string& pValue)
 {
-    mEntries.insert_or_assign(lowerGet(pKey), pValue);
+    entrySet(lowerGet(pKey), pValue);
+}
+
+void znCVariableTable::entrySet(std::string&& pKey, const std::string& pValue)
+{
+    const auto [entry, isNew] = mEntries.try_emplace(std::move(pKey), pValue);
+    if (!isNew && entry->second == pValue)
+        return;
+    if (!isNew)
+        entry->second = pValue;
+    ++mChangeCount;
 }
 
 void znCVariableTable::s32Set(const std::string& pKey, s32 pValue)
@@ -141,13 +151,18 @@ void znCVariableTable::boolSet(const std::string& pKey, bool pValue)
 void znCVariableTable::tableMerge(const znCVariableTable& pOther)
 {
     for (const auto& [key, value] : pOther.mEntries)
-        mEntries.insert_or_assign(key, value);
+        entrySet(std::string(key), value);
 }
 
 void znCVariableTable::keysContainingRemove(const std::string& pText)
 {
     const std::string text = lowerGet(pText);
-    std::erase_if(mEntries, [&text](const auto& pEntry) { return pEntry.first.find(text) != std::string::npos; });
+    const auto isMeant = [&text](const auto& pEntry)
+    {
+        return pEntry.first.find(text) != std::string::npos;
+    };
+    if (std::erase_if(mEntries, isMeant) > 0)
+        ++mChangeCount;
 }
 
 std::vector<std::string> znCVariableTable::keysWithPrefixGet(const std::string& pPrefix) const

@@ -81,14 +81,21 @@ public:
     // Keys in lower case.
     const std::map<std::string, std::string>& entriesGet() const { return mEntries; }
 
+    // Another number after each setter, merge or removal that changed an entry: tells whether there is something to
+    // save. What a file or a text brings doesn't count.
+    u32 changeCountGet() const { return mChangeCount; }
+
 protected:
     std::map<std::string, std::string> mEntries;
     s32 mLoadStatus = STATUS_NOTHING_LOADED;
+    u32 mChangeCount = 0;
+
+    // Where the entry begins that the end of the text cut off; null if none was.
+    const char* entriesParse(const char* pBegin, const char* pEnd);
 
 private:
     const std::string* valueFind(const std::string& pKey) const;
-    // Where the entry begins that the end of the text cut off; null if none was.
-    const char* entriesParse(const char* pBegin, const char* pEnd);
+    void entrySet(std::string&& pKey, const std::string& pValue);
 };
 
 #endif

@@ -68,10 +68,17 @@ void znCHogCoreMain::messageDispatchersDestroy()
 void znCHogCoreMain::messageDispatchersCreate()
 {
     znCHogMessageDispatcher::create();
+    mProgressSaver.messagesRegister();
+}
+
+void znCHogCoreMain::suspendPrepare()
+{
+    mProgressSaver.save();
 }
 
 void znCHogCoreMain::shutDownPrepare()
 {
+    mProgressSaver.messagesDeregister();
     if (znIHogLevel* level = znIHogLevel::levelGet())
         level->levelStateStore();
 }
@@ -124,8 +131,9 @@ void znCHogCoreMain::mapRuleApply()
         user->mapLevelSet("");
 }
 
-void znCHogCoreMain::appUpdate(s32)
+void znCHogCoreMain::appUpdate(s32 pDeltaMs)
 {
+    mProgressSaver.update(pDeltaMs);
     if (mNextScreen.empty() || appDisplayChildFind(znCMainMenuGui::NAME) != nullptr ||
         appDisplayChildFind(znIHogLevel::NAME) != nullptr)
         return;
@@ -134,6 +142,7 @@ void znCHogCoreMain::appUpdate(s32)
 
 void znCHogCoreMain::levelStart()
 {
+    mProgressSaver.levelLeft();
     znCBrushManager::instanceGet()->brushesClear();
     znCParticleDataManager::instanceGet()->levelDataClear();
     znCAnimationDataManager::instanceGet()->levelDataClear();

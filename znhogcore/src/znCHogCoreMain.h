@@ -12,6 +12,7 @@
 // opens with a message; the same menu follows a screen behind which none was asked for.
 
 #include "znappcore/src/znCAppCoreMain.h"
+#include "znhogcore/src/znCProgressSaver.h"
 
 class znCHogCoreMain : public znCAppCoreMain
 {
@@ -25,9 +26,9 @@ public:
     // As the base's; null without an instance of this class.
     static znCHogCoreMain* instanceGet();
 
-    // Makes pScreen the pending screen. The map with a target is just the map, which offers the target unless it has an
     static bool guiFileNameGet(const std::string& pScreen); // whether the screen of that name is a GUI file
 
+    // Makes pScreen the pending screen. The map with a target is just the map, which offers the target unless it has an
     // offer already; going to the very level that it offers takes the offer away.
     void nextScreenSet(const std::string& pScreen);
     // The same, and play continues there after the next start.
@@ -49,6 +50,7 @@ protected:
     void factoriesDestroy() override;
     void appUpdate(s32 pDeltaMs) override;
     void factoriesCreate() override;
+    void suspendPrepare() override;
     virtual void gameComponentsRegister(); // for the game's own component types
     virtual void levelStart();             // opens the pending screen
 
@@ -58,6 +60,7 @@ private:
     void levelOpen();
     void missingScreenShow();
 
+    znCProgressSaver mProgressSaver;
     std::string mNextScreen; // empty: none is pending
 };
 

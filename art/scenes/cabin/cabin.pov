@@ -1,23 +1,23 @@
-// The captain's cabin of the Petrel.  1 unit = 10 cm; the back wall is z=10, the floor y=0.
-// SHOW=-1 renders everything, SHOW=0 the bare cabin, SHOW=k the cabin with thing k alone.  BOUNCE=1 adds light from surface to surface.
+// The captain's cabin of the Petrel by night.  1 unit = 10 cm; the back wall is z=10, the floor y=0.
+// SHOW=-1 renders everything, SHOW=0 the bare cabin, SHOW=k the cabin with thing k alone (numbers in things.inc).
+// BOUNCE=1 adds light from surface to surface.
 #version 3.7;
-#ifndef(Q) #declare Q=0; #end
 #ifndef(SHOW) #declare SHOW=-1; #end
 #ifndef(BOUNCE) #declare BOUNCE=0; #end
-global_settings{assumed_gamma 1.0 max_trace_level 10
- #if(BOUNCE) radiosity{pretrace_start .08 pretrace_end #if(Q) .012 #else .03 #end count #if(Q) 140 #else 50 #end nearest_count #if(Q) 10 #else 6 #end error_bound #if(Q) .55 #else .9 #end recursion_limit 2 low_error_factor .6 gray_threshold .1 minimum_reuse .012 brightness 1.15} #end}
+global_settings{assumed_gamma 1.0 max_trace_level 6
+ #if(BOUNCE) radiosity{pretrace_start .08 pretrace_end .02 count 35 nearest_count 6 error_bound .9 recursion_limit 1 low_error_factor .6 gray_threshold .15 minimum_reuse .015 brightness 1.0} #end}
 #include "povray/props.inc"
-#include "povray/room_light.inc"
 #declare Sd=seed(4242);
-camera{location<0,20.5,-37> look_at<0,8.85,0> angle 52 right x*image_width/image_height}
-// ---------------- lights
-light_source{<-20,30,-34> KeyCol*.72 area_light x*9,y*9,5,5 adaptive 1 jitter circular orient}        // warm key, upper left front
-light_source{<-4.9,14.9,-1.2> srgb<1,.70,.36>*1.0 area_light x*1.2,z*1.2,4,4 adaptive 1 jitter circular orient fade_distance 11 fade_power 2} // hanging lamp
-light_source{<10.2,10.6,-1.2> srgb<1,.66,.30>*.75 area_light x*.6,y*.6,3,3 adaptive 1 jitter circular orient fade_distance 6 fade_power 2} // desk candle
-light_source{<-27,25,34> srgb<.80,.92,1>*2.2 area_light x*4,y*4,4,4 adaptive 1 jitter circular orient} // sun through the portholes
-light_source{<6,14,-40> FillCol*.17 shadowless}
-light_source{<13,15.5,-6> srgb<1,.80,.52>*.42 area_light x*2,y*2,3,3 adaptive 0 jitter circular orient fade_distance 12 fade_power 2} // bookcase fill
-sphere{0,300 inverse texture{pigment{srgb<.62,.74,.86>} finish{emission .5 diffuse 0}} no_image}
+camera{location<0,14,-37> right x*1.06 up y*1.06*768/1366 direction<0,-.164,1>}   // a shifted lens: the floor lies under the game's panel
+// One light: the hanging oil lamp; a candle on the desk, a bulkhead lamp over the books, the moon through the porthole.
+#declare HL=<-4.9,14.2,-1.0>;
+light_source{HL+<0,1.5,-.2> srgb<1,.70,.36>*2.1 area_light x*1.2,z*1.2,3,3 adaptive 0 circular orient fade_distance 11 fade_power 2}
+light_source{<10.2,10.6,-1.2> srgb<1,.64,.28>*1.2 area_light x*.6,y*.6,2,2 adaptive 0 circular orient fade_distance 6 fade_power 2}
+light_source{<16.5,17,-3> srgb<1,.76,.46>*.9 area_light x*1.5,y*1.5,2,2 adaptive 0 circular orient fade_distance 11 fade_power 2}
+light_source{<-10,22,-34> srgb<1,.78,.52>*.34 area_light x*9,y*9,3,3 adaptive 0 circular orient}
+light_source{<-15,10,-8> srgb<1,.70,.40>*.34 fade_distance 9 fade_power 2 shadowless}
+light_source{<-24,24,34> srgb<.46,.62,1>*.95}
+light_source{<14,10,-40> srgb<.36,.46,.72>*.20 shadowless}
 // ---------------- shell
 #declare WallW=array[6]{<.64,.38,.17>,<.58,.33,.14>,<.68,.42,.19>,<.56,.32,.13>,<.64,.37,.16>,<.60,.38,.18>}
 #declare PortA=<-13.4,12.8,10>; #declare PR=2.7;
@@ -34,7 +34,8 @@ object{RBox(<-21,5.9,9.3>,<21,6.5,10.5>,.12) texture{T_Walnut}} object{RBox(<-21
 #for(i,0,26) object{RBox(<-22,-.5,10-i*1.3-1.28>,<22,0,10-i*1.3>,.05) texture{Wood(C_Oak*RR(.62,.86),1,F_Lacq) translate x*RR(-9,9)}} #end
 union{ #for(i,0,4) object{RBox(<-19.5+i*9.4,19.0,-2>,<-18.2+i*9.4,20.6,10>,.14) texture{Wood(C_Walnut*1.1,1,F_Satin) rotate y*90}} #end box{<-22,20.4,-2>,<22,20.8,10.5> texture{Wood(<.80,.74,.60>,.6,F_Satin)}} no_shadow}
 // ---------------- porthole and sea
-box{<-40,-20,24>,<14,34,24.1> texture{pigment{image_map{png concat(TEX,"seaview.png") interpolate 2 once} translate<-.5,-.5,0> scale<21,21,1> translate<-20.6,10.4,0>} finish{emission .7 diffuse 0}} no_shadow}
+box{<-40,-20,24>,<14,34,24.1> texture{pigment{image_map{png concat(TEX,"evening.png") interpolate 2} translate<-.32,-.06,0> scale<64,22,1> translate<-20.6,6.5,0>} finish{emission rgb<.16,.24,.46> diffuse 0}} no_shadow}
+disc{<-20.9,14.6,23.9>,z,.85 texture{pigment{srgb<1,.96,.84>} finish{emission 1 diffuse 0}} no_shadow}
 union{torus{PR+.35,.42 rotate x*90 texture{T_Brass}} torus{PR-.05,.16 rotate x*90 translate z*-.2 texture{T_Gold}} #for(k,0,11) sphere{<(PR+.55)*cos(k*pi/6),(PR+.55)*sin(k*pi/6),-.42>,.16 texture{T_Gold}} #end
  cylinder{<0,0,.1>,<0,0,.12>,PR texture{pigment{srgbt<.93,.97,1,.95>} finish{specular .6 roughness .01 diffuse 0 reflection{.02,.2}}} no_shadow} difference{cylinder{<0,0,-.1>,<0,0,1>,PR+.4} cylinder{<0,0,-2>,<0,0,2>,PR} texture{T_OldBrass}}
  box{<-.25,-PR-1.0,-.5>,<.25,-PR-.1,-.1> texture{T_Brass}} sphere{<0,-PR-1.1,-.4>,.3 texture{T_Gold}} box{<PR+.2,-.5,-.35>,<PR+.9,.5,.1> texture{T_Brass}} translate PortA-z*.1}
@@ -53,10 +54,10 @@ union{object{RBox(<-20.6,9.6,8.2>,<-18.3,9.9,10>,.05) texture{T_Walnut}} transla
 // ---------------- wall centre: chart, clock, pictures
 object{Frame(concat(TEX,"chart.png"),9.4,5.4,.55,T_Mahog) translate<-.4,13.2,9.75>}
 object{Clock(1.25,T_Walnut) translate<6.3,15.7,9.6>} object{Frame(concat(TEX,"paint1.png"),2.5,1.8,.3,T_Oak) translate<6.3,12.2,9.8>}  cylinder{<6.3,9.2,9.2>,<6.3,9.2,10>,.08 texture{T_Brass}}
-object{Frame(concat(TEX,"paint2.png"),1.9,1.35,.25,T_Oak) translate<-6.6,9.1,9.8>} 
+ 
 // low sideboard under the chart
 union{object{RBox(<-5.6,0,6.4>,<7.6,5.6,9.4>,.1) texture{T_Mahog}} #for(i,0,2) object{Panel(4.1,2.9) translate<-5.4+i*4.35,.6,6.25>} object{RBox(<-5.2+i*4.35,3.8,6.15>,<-1.5+i*4.35,5.0,6.5>,.1) texture{T_Mahog}} sphere{<-3.35+i*4.35,4.4,6.0>,.2 texture{T_Brass}} sphere{<-1.9+i*4.35,2.2,6.0>,.16 texture{T_Brass}} #end object{RBox(<-5.9,5.5,6.0>,<7.9,5.95,9.5>,.14) texture{T_Walnut}}}
-object{DiveHelmet(1.1) rotate y*14 translate<-4.3,5.95,7.9>}  object{Coffer(2.1,1.5,1.3,T_Oak) rotate y*12 translate<3.0,5.95,7.7>} object{O_Candle() scale 1.7 translate<1.35,5.95,7.2>} object{VaseR(2.2) translate<5.0,5.95,8.4>}   
+object{DiveHelmet(1.1) rotate y*14 translate<-4.3,5.95,7.9>}  object{Coffer(2.1,1.5,1.3,T_Oak) rotate y*12 translate<3.0,5.95,7.7>}  object{VaseR(2.2) translate<5.0,5.95,8.4>}   
 // ---------------- bookcase right
 #declare BX0=8.6; #declare BX1=20.2;
 union{box{<BX0,0,9.2>,<BX1,18.2,9.6> texture{Wood(C_Walnut*.8,1,F_Satin) rotate z*90}} #for(s,0,1) object{RBox(<(s?BX1-.5:BX0),0,6.2>,<(s?BX1:BX0+.5),18.2,9.4>,.1) texture{T_Mahog rotate z*90}} #end object{RBox(<14.2,4.6,6.5>,<14.5,17.4,9.4>,.06) texture{T_Mahog rotate z*90}}
@@ -64,8 +65,8 @@ union{box{<BX0,0,9.2>,<BX1,18.2,9.6> texture{Wood(C_Walnut*.8,1,F_Satin) rotate 
  object{RBox(<BX0-.4,17.3,5.8>,<BX1+.4,18.3,9.4>,.25) texture{T_Mahog}} #for(i,0,1) object{Panel(5.3,3.6) translate<BX0+.35+i*5.6,.5,6.1>} sphere{<BX0+5.2+i*1.2,2.4,5.9>,.2 texture{T_Brass}} #end}
 object{Books(5.0,2.5,2) translate<BX0+.6,4.75,6.9>} object{Books(3.2,2.4,2) translate<14.6,4.75,6.9>} 
 object{Books(2.6,2.5,2) translate<BX0+.6,7.95,6.9>}  object{Books(5.1,2.5,2) translate<14.6,7.95,6.9>}
-object{JarR(1.9) translate<9.9,11.15,7.7>} object{BottleR(2.3) translate<11.2,11.15,7.9>} object{BottleR(2.0) translate<12.2,11.15,7.4>} object{JarR(1.7) translate<13.4,11.15,7.8>} object{Books(2.9,2.4,2) translate<14.6,11.15,6.9>} object{TinR(1.7) translate<18.4,11.15,7.6>} object{BottleR(2.2) translate<19.3,11.15,8.2>}
-object{Books(4.2,2.4,2) translate<BX0+.6,14.35,6.9>} object{VaseR(2.1) translate<13.6,14.35,7.8>} object{Coral(70,<.85,.80,.70>) scale .62 translate<15.9,14.35,7.9>} object{Coffer(1.8,1.4,1.2,T_Teak) rotate y*-12 translate<18.5,14.35,7.6>}
+object{JarR(1.9) translate<9.9,11.15,7.7>} object{BottleR(2.3) translate<11.2,11.15,7.9>}   object{Books(2.9,2.4,2) translate<14.6,11.15,6.9>} object{TinR(1.7) translate<18.4,11.15,7.6>} object{BottleR(2.2) translate<19.3,11.15,8.2>}
+object{Books(4.2,2.4,2) translate<BX0+.6,14.35,6.9>}  object{Coral(70,<.85,.80,.70>) scale .62 translate<15.9,14.35,7.9>} object{Coffer(1.8,1.4,1.2,T_Teak) rotate y*-12 translate<18.5,14.35,7.6>}
 // ---------------- rug
 box{<-13,0,-12>,<9,.06,3.2> texture{pigment{image_map{png concat(TEX,"rug.png") interpolate 2} rotate x*90 scale<22,1,15.2> translate<-13,0,-12>} normal{granite .25 scale .3} finish{ambient 0 diffuse .9}}}
 // ---------------- desk
@@ -75,28 +76,22 @@ union{object{RBox(<1.5,DY-.55,-6.6>,<18.2,DY,1.4>,.18) texture{Wood(C_Mahog*1.1,
  object{RBox(<7.3,DY-2,-6.1>,<12.5,DY-.5,-5.8>,.1) texture{T_Mahog}} sphere{<9.9,DY-1.2,-6.2>,.18 texture{T_Brass}}}
 object{FlatImg(concat(TEX,"chart.png"),7.2,4.1) rotate y*9 translate<8.2,DY+.06,-3.4>}  
 object{FlatImg(concat(TEX,"pages.png"),3.4,2.4) rotate y*-14 translate<14.6,DY+.25,-4.4>} object{BookC(<.30,.10,.08>,3.5,.24,2.5) translate<-1.75,0,-1.25> rotate y*-14 translate<14.6,DY+.01,-4.4>}
-object{InkWell() translate<12.0,DY+.05,-1.9>}  object{Papers(7,1.7,2.3) translate<4.6,DY+.04,-1.8>} object{FlatImg(concat(TEX,"envfront.png"),1.9,1.25) rotate y*-22 translate<6.4,DY+.16,-1.2>}
+object{InkWell() translate<12.0,DY+.05,-1.9>}  object{Papers(7,1.7,2.3) translate<4.6,DY+.04,-1.8>} 
 object{O_Candle() scale 2.5 translate<10.2,DY+.04,-.6>} object{BookStack(4) translate<15.6,DY+.04,-1.0>} object{Globe(1.5) translate<3.6,DY+.04,-.2>} object{Sextant() scale 1.3 rotate x*-8 rotate y*20 translate<17.0,DY+1.5,-2.6>}   
-object{Chair(T_Mahog,<.38,.10,.08>) scale .86 rotate y*-118 translate<-1.6,0,-4.2>} superellipsoid{<.5,.5> scale<1.3,.4,1.3> rotate<8,20,4> translate<-1.8,4.55,-4.2> texture{Cloth(<.16,.30,.34>,.05)}}
 // ---------------- left foreground: sea chest, barrel of charts, rope
-object{Coffer(6.4,4.6,4.0,Wood(C_Teak*.95,1,F_Satin)) rotate y*24 translate<-13.8,0,-2.6>} object{O_Wheel() scale 3.4 rotate<-10,14,0> translate<12.0,17.6,5.6>}
+object{Coffer(6.4,4.6,4.0,Wood(C_Teak*.95,1,F_Satin)) rotate y*24 translate<-13.8,0,-2.6>} 
  object{BookStack(3) rotate y*30 translate<-12.2,4.35,-3.2>}
 object{Barrel(5.2) translate<-7.4,0,1.2>} #for(i,0,6) object{Scroll(RR(4,5.6),RR(.24,.36)) rotate z*RR(70,104) rotate y*RR(-25,25) translate<-7.4+RR(-.9,.9),4.2,1.2+RR(-.8,.6)>} #end
 object{O_Rope() scale 3.0 translate<-8.0,.06,-3.6>} 
 object{PlankBox(4.4,3,3.4,C_Pine,3) rotate y*-14 translate<17.2,0,-9.6>}
 // ---------------- right wall : coat hooks, umbrella, hat
 // ---------------- hanging lamp
-#declare HL=<-4.9,13.4,-1.0>;
 union{Chain(<0,5.6,0>,<0,3.0,0>,.34) texture{T_Brass}  translate HL} object{O_OilLamp() scale 3.4 translate HL}
 object{GlassFloat(.95,<.65,.98,.85>) translate<-17.5,16.6,1>} object{GlassFloat(.7,<.70,.85,.98>) translate<-18.9,15.2,1.4>} RopeLine(<-17.5,17.5,1>,<-17.4,20,1>,.09) RopeLine(<-18.9,15.9,1.4>,<-18.7,20,1.4>,.09)
 // ---------------- v2 clutter
 // long high shelf over the chart
 object{RBox(<-6.4,16.9,8.4>,<4.6,17.2,10>,.06) texture{T_Walnut}} #for(i,0,2) object{RBox(<-6+i*5.1,16.2,8.8>,<-5.7+i*5.1,16.9,10>,.06) texture{T_Walnut}} #end
-object{TinR(1.3) translate<-5.7,17.2,9.2>} object{BottleR(1.6) translate<-4.7,17.2,9.2>} object{VaseR(1.5) translate<-3.6,17.2,9.2>}  object{JarR(1.3) translate<-.4,17.2,9.2>} object{Coral(60,<.80,.25,.18>) scale .55 translate<1.0,17.2,9.1>}  object{TinR(1.2) translate<3.8,17.2,9.2>}
-// pennants along the top
-#for(i,0,25) #local q=i/25; #local px=-20+40*q; #local py=18.4-1.0*sin(mod(q*3,1)*pi); #local fc=array[5]{<.72,.12,.10>,<.88,.80,.62>,<.14,.26,.46>,<.86,.62,.16>,<.18,.36,.26>};
- triangle{<px-.62,py,7.8>,<px+.62,py,7.8>,<px+RR(-.15,.15),py-1.25,7.6> texture{pigment{srgb fc[mod(i,5)]} finish{ambient 0 diffuse .8}}} #end
-#for(i,0,59) #local q=i/60; #local q2=(i+1)/60; cylinder{<-20+40*q,18.4-1.0*sin(mod(q*3,1)*pi),7.8>,<-20+40*q2,18.4-1.0*sin(mod(q2*3*.9999,1)*pi),7.8>,.05 texture{T_Rope}} #end
+    object{JarR(1.3) translate<-.4,17.2,9.2>} object{Coral(60,<.80,.25,.18>) scale .55 translate<1.0,17.2,9.1>}  object{TinR(1.2) translate<3.8,17.2,9.2>}
 // floor: boots, open letter, fallen books, small crate, cat basket, buckets
 #macro Boot() union{lathe{cubic_spline 7 <.0,0>,<.55,.1>,<.5,.6>,<.52,1.4>,<.62,2.6>,<.66,3>,<.60,3.02> texture{Leather(<.20,.11,.06>)}} superellipsoid{<.6,.5> scale<.55,.35,1.05> translate<0,.36,-.6> texture{Leather(<.20,.11,.06>)}} object{RBox(<-.55,0,-1.6>,<.55,.16,.55>,.07) texture{Leather(<.08,.05,.03>)}} torus{.64,.07 translate y*2.9 texture{Leather(<.45,.28,.14>)}}} #end
 object{Boot() rotate y*24 translate<-3.6,0,4.4>} object{Boot() rotate y*-8 translate<-2.1,0,4.0>}
@@ -109,8 +104,8 @@ object{GlassFloat(.9,<.98,.80,.55>) translate<19.7,14.6,2.4>} object{GlassFloat(
   object{JarR(1.5) translate<5.6,DY+.04,.5>} object{VaseR(1.6) translate<7.2,DY+.04,.6>} object{BottleR(1.9) translate<13.6,DY+.04,.5>} object{Scroll(2.6,.2) rotate y*-28 translate<5.4,DY+.25,-3.0>} 
 // ---------------- neutral filler in the places of the removed objects
 object{BookStack(4) rotate y*26 translate<-15.2,5.65,7.4>} superellipsoid{<.55,.55> scale<1.1,1.1,.45> rotate<-14,-10,-6> translate<-16.4,6.8,8.6> texture{Cloth(<.18,.30,.26>,.05)}}
-object{VaseR(1.9) translate<-.9,5.95,8.2>} object{JarR(1.5) translate<-2.3,5.95,7.4>} object{TinR(1.3) translate<6.6,5.95,7.4>} object{BottleR(2.0) translate<.4,5.95,8.6>} object{BookStack(2) translate<5.2,5.95,7.0>}
-object{BottleR(2.2) translate<12.3,7.95,7.7>} object{TinR(1.5) translate<13.2,7.95,7.5>} object{VaseR(1.9) translate<18.6,4.75,7.4>} object{TinR(1.0) translate<-1.9,17.2,9.2>} object{BottleR(1.4) translate<2.5,17.2,9.2>}
+  object{TinR(1.3) translate<6.6,5.95,7.4>} object{BottleR(2.0) translate<.4,5.95,8.6>} object{BookStack(2) translate<5.2,5.95,7.0>}
+  object{VaseR(1.9) translate<18.6,4.75,7.4>}  
 object{JarR(1.9) translate<-14.6,4.5,-2.5>} object{TinR(1.5) translate<-16.0,4.5,-2.0>} object{BottleR(2.0) translate<16.8,DY+.04,-.9>} object{TinR(1.2) translate<11.4,DY+.04,-4.9>} object{JarR(1.2) translate<16.6,DY+.04,-5.4>}
-object{BookStack(2) rotate y*-30 translate<-4.9,.06,-3.6>} object{BottleR(2.4) rotate z*-86 rotate y*40 translate<-3.2,.5,-1.6>} object{Scroll(2.4,.18) rotate y*30 translate<7.0,DY+.25,-5.0>} object{VaseR(2.6) translate<-10.9,0,-1.0>} object{PlankBox(2.4,1.6,2,C_Pine,2) rotate y*18 translate<-2.6,0,4.4>}
+object{BookStack(2) rotate y*-30 translate<-4.9,.06,-3.6>}  object{Scroll(2.4,.18) rotate y*30 translate<7.0,DY+.25,-5.0>} object{VaseR(2.6) translate<-10.9,0,-1.0>} object{PlankBox(2.4,1.6,2,C_Pine,2) rotate y*18 translate<-2.6,0,4.4>}
 #include "scenes/cabin/things.inc"

@@ -9,7 +9,7 @@ global_settings{assumed_gamma 1.0 max_trace_level 5
 #include "povray/props.inc"
 #include "povray/props/harbour.inc"
 #include "scenes/quay/light.inc"
-camera{location<0,14.5,-33> right x*1.155 up y*1.155*768/1366 direction<0,-.155,1>}   // a shifted lens: uprights stay upright
+camera{location<0,14.5,-33> right x*1.155 up y*1.155*768/1366 direction<0,-.19220351,1>}   // a shifted lens: uprights stay upright, and the foreground lies under the game's panel
 #include "scenes/quay/backdrop.inc"
 #declare Sd=seed(11); #include "scenes/quay/ground.inc"
 #declare Sd=seed(12); #include "scenes/quay/mailhouse.inc"

@@ -60,6 +60,7 @@ void znCPlatformLoop::suspend()
 {
     mPausedAt = s3eTimerGetMs();
     znIAudioManager::instanceGet()->pause();
+    znCAppCoreMain::instanceGet()->suspend();
 }
 
 void znCPlatformLoop::resume()
