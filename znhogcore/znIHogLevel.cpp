@@ -44,7 +44,7 @@ constexpr char HINT_PARTICLES[] = "particles/pHint.txt";
 constexpr s32 HINT_MS = 4000;
 
 template <class T>
-T* levelAdd()
+znIHogLevel* levelAdd()
 {
     auto* level = new T; // owned by the tree
     znCHogCoreMain::instanceGet()->appDisplayChildAdd(level);

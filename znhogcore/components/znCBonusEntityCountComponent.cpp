@@ -46,9 +46,14 @@ bool znCBonusEntityCountComponent::messageProcess(const znCUniqueId& pType, void
     return false;
 }
 
+std::string znCBonusEntityCountComponent::markerGet()
+{
+    return std::to_string(TYPE.idGet());
+}
+
 void znCBonusEntityCountComponent::mySave(std::string& pOut)
 {
-    znINode::strSave(pOut, std::to_string(TYPE.idGet()));
+    znINode::strSave(pOut, markerGet());
     for (const s32 value : {mBonusCollected, mBonusTotal, mSilhouetteCollected, mSilhouetteTotal})
         znINode::s32Save(pOut, value);
 }
