@@ -16,6 +16,8 @@ constexpr s32 FADE_FRAMES = 500 / 16 + 5;
 class menusTest : public znCHogTest
 {
 protected:
+    menusTest() { mPlatform.mFiles.fileSet("strings.txt", "deleteprofilewarning = \"Strike %NAME off?\",\r\n"); }
+
     static std::string button(const std::string& pName)
     {
         return "znCButtonComponent { name = " + pName + " buttonImage = \"button.png\" }\n";
@@ -66,14 +68,15 @@ protected:
             slots += "znCPlayerSlotGui {\n name = ChoosePlayerProfile" + std::to_string(i) +
                      "\n posY = " + std::to_string(i * 40) + "\n" + text("PlayerSlotNameText") +
                      button("Slot" + std::to_string(i)) + "}\n";
-        guiOpen(
-            "znCChoosePlayerGui {\n name = Choose\n znCSpriteComponent { name = ChoosePlayerHighlight posX = 7 }\n" +
-            slots + button("ChoosePlayerNewButton") + button("ChoosePlayerDeleteButton") +
-            button("ChoosePlayerOKButton") + "}\n");
+        guiOpen("znCChoosePlayerGui {\n name = Choose\n znCSpriteComponent { name = ChoosePlayerHighlight image = "
+                "\"button.png\" posX = 7 }\n" +
+                slots + button("ChoosePlayerNewButton") + button("ChoosePlayerDeleteButton") +
+                button("ChoosePlayerOKButton") + "}\n");
     }
 
     static void playersMake(const std::string& pNames)
     {
+        user().boolSet(znCHogUserSavedData::FULL_SCREEN, false);
         for (const char name : pNames)
             znCProfileManager::instanceGet()->profileCreate(std::string(1, name));
     }
@@ -151,8 +154,7 @@ TEST_F(znCChoosePlayerGuiTest, saysThatTheListIsTooShort)
 {
     playersMake("abcd");
     open();
-    EXPECT_EQ(errorsTake(),
-              std::vector<std::string>{"Current profile number is higher than the number of profile slots."});
+    EXPECT_EQ(errorsTake().front(), "Current profile number is higher than the number of profile slots.");
     EXPECT_EQ(listGet(), "abc DO -");
     EXPECT_EQ(global().currentProfileGet(), 3);
 }
@@ -198,6 +200,6 @@ TEST_F(menusTest, showsTheHighScores)
     EXPECT_EQ(textOf("HighScoresName0") + textOf("HighScoresScore0"), "Ben30");
     EXPECT_EQ(textOf("HighScoresName1") + textOf("HighScoresScore1"), "Ann10");
     guiOpen("znCHighScoresGui {\n" + text("HighScoresScore0") + text("HighScoresName0") + "}\n");
-    EXPECT_EQ(errorsTake(), std::vector<std::string>{"High score table has less entries than the saved data."});
+    EXPECT_EQ(errorsTake().front(), "High score table has less entries than the saved data.");
 }
 } // namespace
