@@ -76,9 +76,11 @@ protected:
 
     static void playersMake(const std::string& pNames)
     {
-        user().boolSet(znCHogUserSavedData::FULL_SCREEN, false);
         for (const char name : pNames)
+        {
             znCProfileManager::instanceGet()->profileCreate(std::string(1, name));
+            user().boolSet(znCHogUserSavedData::FULL_SCREEN, false); // as the window is here
+        }
     }
 
     // The names on the list, the current player's in capitals; then the buttons that show.
