@@ -23,9 +23,9 @@ void playerSign(const GameRun& pRun)
 }
 
 // Where the quay has the middle of its brass bell, of its telescope and of an empty stretch of pavement.
-constexpr char BELL[] = "460 273";
-constexpr char TELESCOPE[] = "129 501";
-constexpr char PAVEMENT[] = "560 730";
+constexpr char BELL[] = "460 229";
+constexpr char TELESCOPE[] = "129 457";
+constexpr char PAVEMENT[] = "560 636";
 
 // How many things of the saved quay have been found: those on their way to collected (2) and those that arrived (3).
 size_t collectedCountGet(const GameRun& pRun)
@@ -55,11 +55,11 @@ TEST(playTest, collectsWhatIsPressedAndNothingElse)
     const Case cases[] = {
         {"opaque", tap(BELL) + tap(TELESCOPE), 2},
         {"beside", tap(PAVEMENT), 0},
-        {"a transparent corner of the telescope", tap("60 475"), 0},
-        {"slid off", "down 460 273\nwait 50\nmove 560 730\nwait 50\nup 560 730\nwait 1500\n", 0},
-        {"slid off and back", "down 460 273\nwait 50\nmove 560 730\nwait 50\nmove 460 273\nup 460 273\nwait 1500\n", 1},
+        {"a transparent corner of the telescope", tap("60 431"), 0},
+        {"slid off", "down 460 229\nwait 50\nmove 560 636\nwait 50\nup 560 636\nwait 1500\n", 0},
+        {"slid off and back", "down 460 229\nwait 50\nmove 560 636\nwait 50\nmove 460 229\nup 460 229\nwait 1500\n", 1},
         {"twice on one place", tap(BELL) + tap(BELL), 1},
-        {"with the right button", "down 460 273 1\nwait 50\nup 460 273 1\nwait 1500\n", 0},
+        {"with the right button", "down 460 229 1\nwait 50\nup 460 229 1\nwait 1500\n", 0},
     };
     for (const Case& c : cases)
     {
@@ -75,7 +75,7 @@ TEST(playTest, collectsWhatIsPressedAndNothingElse)
 TEST(playTest, repeatsARunToTheLastPixel)
 {
     const std::string script =
-        "wait 800\nshot before\nmove 460 273\n" + tap(BELL) + "shot after\nsuspend\nwait 100\nresume\nwait 90\nquit\n";
+        "wait 800\nshot before\nmove 460 229\n" + tap(BELL) + "shot after\nsuspend\nwait 100\nresume\nwait 90\nquit\n";
     GameRun first("first");
     GameRun second("second");
     GameRun replay("replay");
@@ -147,10 +147,10 @@ TEST(playTest, fitsTheDisplayThatItMeets)
         const char* mTap; // the bell's place there
     };
     const Case cases[] = {
-        {"window", {"--windowed"}, 1366, 768, "460 273"},
-        {"full screen", {"--fullscreen", "--set", "s3e.DisplayModes=1920x1080"}, 1920, 1080, "647 384"},
-        {"only 4:3", {"--windowed", "--set", "s3e.DisplayModes=800x600,1024x768"}, 1024, 768, "289 273"},
-        {"an upright device", {"--touch", "--size", "480x800"}, 800, 480, "269 171"},
+        {"window", {"--windowed"}, 1366, 768, "460 229"},
+        {"full screen", {"--fullscreen", "--set", "s3e.DisplayModes=1920x1080"}, 1920, 1080, "647 322"},
+        {"only 4:3", {"--windowed", "--set", "s3e.DisplayModes=800x600,1024x768"}, 1024, 768, "289 229"},
+        {"an upright device", {"--touch", "--size", "480x800"}, 800, 480, "269 145"},
     };
     for (const Case& c : cases)
     {

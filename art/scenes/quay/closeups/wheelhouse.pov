@@ -1,7 +1,7 @@
 // The wheelhouse of the Petrel at dusk, the bay with its dark lighthouse before her windows.  1 unit = 10 cm; deck y=0, front wall z=10.
 #version 3.7;
 #include "scenes/quay/closeups/evening.inc"
-camera{location<0,15.5,-30> right x*1.15 up y*1.15*768/1366 direction<0,-.20,1>}
+camera{location<0,15.5,-30> right x*1.36 up y*1.36*768/1366 direction<0,-.20,1>}
 // the lamp of the room, warm, and the evening sky through the windows
 light_source{<-13,24,-28> WarmCol*.82 area_light x*7,y*7,3,3 adaptive 1 circular orient}
 light_source{<6.2,15.4,1.0> srgb<1,.70,.36>*1.5 area_light x*1,z*1,2,2 adaptive 0 fade_distance 10 fade_power 2}
@@ -22,13 +22,14 @@ sphere{0,3000 inverse texture{pigment{gradient y color_map{[0 srgb<.72,.50,.46>]
 #for(i,-2,2) object{Pane(i*8.2-2.95,i*8.2+2.95)} #end
 #for(i,0,5) #local xc=-20.5+i*8.2; #for(k,0,2) object{RBox(<xc-1.15+k*.77,9,9.8>,<xc-1.15+k*.77+.75,18.6,10.4>,.05) texture{Wood(WallC*RR(.85,1.1),1,F_Satin) rotate z*90}} #end #end
 object{RBox(<-25,18.1,9.2>,<25,19.0,10.5>,.15) texture{Wood(C_Mahog,1,F_Lacq)}} object{RBox(<-25,19,9.6>,<25,23,10.4>,.1) texture{Wood(WallC,1,F_Satin)}}
-#for(i,0,5) object{RBox(<-20.8+i*8.2,18.9,-2>,<-20.2+i*8.2,19.9,10>,.12) texture{Wood(C_Walnut*1.2,1,F_Satin) rotate y*90}} #end box{<-25,19.9,-3>,<25,20.3,10.5> texture{Wood(<.80,.74,.60>,.6,F_Satin)} no_shadow}
+#for(i,0,5) object{RBox(<-20.8+i*8.2,18.9,-2>,<-20.2+i*8.2,19.9,10>,.12) texture{Wood(C_Walnut*1.2,1,F_Satin) rotate y*90}} #end box{<-25,19.9,-6>,<25,20.3,10.5> texture{Wood(<.80,.74,.60>,.6,F_Satin)} no_shadow}
 object{RBox(<-25,9.3,6.9>,<25,9.9,10.4>,.14) texture{Wood(C_Mahog*1.1,1,F_Lacq)}} cylinder{<-25,9.1,6.95>,<25,9.1,6.95>,.10 texture{T_Brass}}
 #macro Panel(w,h) union{object{RBox(<0,0,0>,<w,h,.4>,.03) texture{T_Mahog}} object{RBox(<.35,.35,-.14>,<w-.35,h-.35,.2>,.13) texture{Wood(C_Mahog*1.12,1,F_Lacq)}} #for(s,0,1) object{RBox(<.22,.22+s*(h-.54),-.1>,<w-.22,.32+s*(h-.54),.2>,.04) texture{T_Mahog}} object{RBox(<.22+s*(w-.54),.22,-.1>,<.32+s*(w-.54),h-.22,.2>,.04) texture{T_Mahog rotate z*90}} #end} #end
-#for(i,0,9) object{Panel(4.9,8.0) translate<-25+i*5,1.2,7.4>} #end object{RBox(<-25,0,7.0>,<25,1.2,8>,.1) texture{T_Walnut}}
+#for(i,0,9) object{Panel(4.9,8.0) translate<-25+i*5,1.2,7.4>} #end object{RBox(<-25,0,7.0>,<25,1.2,8>,.1) texture{T_Walnut}} box{<-25,0,7.7>,<25,9.4,7.9> texture{T_Walnut}} box{<-25,9.5,9.7>,<25,10.4,10.3> texture{T_Walnut}}
 // side walls
 #for(s,-1,1,2) union{#for(i,0,12) object{RBox(<0,0,9.6-i*1.5>,<.6,20,9.6-i*1.5+1.46>,.06) texture{Wood(WallC*RR(.8,1),1,F_Satin) rotate z*90}} #end box{<-.3,9.2,-14>,<.4,9.9,10> texture{T_Walnut rotate y*90}} scale<s,1,1> translate x*s*22.6} #end
 #for(i,0,22) object{RBox(<-24,-.5,9-i*1.1-1.08>,<24,0,9-i*1.1>,.05) texture{Wood(C_Oak*RR(.42,.58),1,F_Satin) translate x*RR(-9,9)}} #end
+box{<-25,-1,-16>,<25,-.3,10> texture{T_Walnut}} box{<-25,0,10.35>,<-20.5,20,10.5> texture{T_Walnut}} box{<20.5,0,10.35>,<25,20,10.5> texture{T_Walnut}}
 // ---------------- the wheel on its pedestal, a grating before it
 #declare Sd=seed(32);
 union{object{RBox(<-1.5,0,4.8>,<1.5,1.0,7>,.1) texture{T_Mahog}} object{RBox(<-1.0,1,5.2>,<1.0,8.2,6.8>,.25) texture{Wood(C_Mahog,1,F_Lacq) rotate z*90}} object{RBox(<-1.25,8.0,5.0>,<1.25,8.5,7>,.12) texture{T_Walnut}}
@@ -51,17 +52,17 @@ box{<-1.15,-1.5,0>,<1.15,1.5,.05> texture{pigment{image_map{png concat(TEX,"noti
 #for(k,0,1) union{cylinder{<0,0,0>,<0,0,-.7>,.12 texture{T_Brass}} #for(i,0,4) torus{.9+.05*i,.10 rotate x*90 scale<.72,1.25,1> translate<RR(-.06,.06),-1.1+RR(-.05,.05),-.22-.05*i> texture{T_Rope}} #end translate<-20.6+k*40.9,15.8,9.6>} #end
 // ---------------- chart table at the right
 #declare Sd=seed(34); #declare TY=7.6;
-union{object{RBox(<6.0,TY-.5,-2.6>,<22.6,TY,6.6>,.15) texture{Wood(C_Mahog*1.1,1,F_Lacq)}} object{RBox(<6.6,.3,-1.9>,<22.4,TY-.5,6.2>,.1) texture{T_Mahog}}
+union{object{RBox(<5.2,TY-.5,-2.6>,<22.6,TY,6.6>,.15) texture{Wood(C_Mahog*1.1,1,F_Lacq)}} object{RBox(<5.8,.3,-1.9>,<22.4,TY-.5,6.2>,.1) texture{T_Mahog}}
  #for(k,0,3) #for(i,0,1) object{RBox(<7.0+i*7.7,1.0+k*1.55,-2.15>,<14.3+i*7.7,2.4+k*1.55,-1.8>,.08) texture{Wood(C_Mahog*1.15,1,F_Lacq)}} #for(m,0,1) torus{.24,.06 rotate x*70 translate<8.6+i*7.7+m*4.1,1.7+k*1.55,-2.25> texture{T_Brass}} #end #end #end
- cylinder{<6.1,TY+.25,-2.5>,<22.6,TY+.25,-2.5>,.07 texture{T_Brass}} #for(i,0,5) cylinder{<6.3+i*3.2,TY,-2.5>,<6.3+i*3.2,TY+.25,-2.5>,.07 texture{T_Brass}} #end}
-object{FlatImg(concat(TEX,"chart.png"),9.0,5.4) rotate y*-6 translate<12.4,TY+.03,.6>} object{Papers(4,2.0,2.7) translate<19.4,TY+.02,.2>}
-object{BookStack(3) rotate y*-12 translate<20.4,TY,4.6>} object{Books(4.6,2.5,2) translate<15.2,TY,4.4>} object{TinR(1.5) translate<13.9,TY,5.6>}
+ cylinder{<5.3,TY+.25,-2.5>,<22.6,TY+.25,-2.5>,.07 texture{T_Brass}} #for(i,0,5) cylinder{<5.5+i*3.3,TY,-2.5>,<5.5+i*3.3,TY+.25,-2.5>,.07 texture{T_Brass}} #end}
+object{FlatImg(concat(TEX,"chart.png"),9.0,5.4) rotate y*-6 translate<11.0,TY+.03,.6>} object{Papers(4,2.0,2.7) translate<19.4,TY+.02,.2>}
+object{BookStack(3) rotate y*-12 translate<20.4,TY,4.6>} object{Books(4.6,2.5,2) translate<13.6,TY,4.6>} object{TinR(1.5) translate<12.6,TY,5.6>}
 #for(i,0,4) object{Scroll(RR(4.2,5.4),RR(.22,.32)) rotate z*RR(78,100) rotate y*RR(-20,20) translate<7.6+RR(-.6,.6),TY+.2,5.6+RR(-.3,.3)>} #end union{difference{cylinder{<0,0,0>,<0,2.4,0>,1.15} cylinder{<0,.1,0>,<0,3,0>,1.0}} torus{1.15,.08 translate y*2.4} torus{1.15,.08 translate y*.3} texture{T_OldBrass} translate<7.6,TY,5.6>}
-object{InkWell() scale 1.3 translate<16.2,TY,-.9>}
+object{InkWell() scale 1.3 translate<15.6,TY,-1.2>}
 // the box before the table, the hanging lamp
-union{object{RBox(<-2.3,0,-1.6>,<2.3,3.6,1.6>,.08) texture{WornPaint(<.16,.30,.40>,C_Pine)}} object{RBox(<-2.4,3.5,-1.7>,<2.4,3.95,1.7>,.08) texture{WornPaint(<.18,.34,.44>,C_Pine)}} #for(s,-1,1,2) object{RBox(<s*1.7-.2,0,-1.72>,<s*1.7+.2,3.6,-1.5>,.04) texture{T_OldBrass}} #end box{<-.3,2.7,-1.75>,<.3,3.7,-1.6> texture{T_Brass}} rotate y*-8 translate<4.4,0,.6>}
+union{object{RBox(<-2.3,0,-1.6>,<2.3,3.6,1.6>,.08) texture{WornPaint(<.16,.30,.40>,C_Pine)}} object{RBox(<-2.4,3.5,-1.7>,<2.4,3.95,1.7>,.08) texture{WornPaint(<.18,.34,.44>,C_Pine)}} #for(s,-1,1,2) object{RBox(<s*1.7-.2,0,-1.72>,<s*1.7+.2,3.6,-1.5>,.04) texture{T_OldBrass}} #end box{<-.3,2.7,-1.75>,<.3,3.7,-1.6> texture{T_Brass}} rotate y*-8 translate<3.3,0,.2>}
 object{WallLantern() scale 1.25 translate<6.2,18.6,1.0>} Chain(<6.2,18.4,1>,<6.2,20,1>,.2)
 // books and tins on the sill's ends, floats and a curtain at the edges
 object{TinR(1.3) translate<-20.2,9.9,8.4>} object{BottleR(2.1) translate<-19.2,9.9,9.2>} object{JarR(1.5) translate<19.4,9.9,8.8>} object{BottleR(2.2) translate<20.8,9.9,8.8>} object{BookStack(2) rotate y*15 translate<2.7,9.9,8.8>} object{VaseR(1.9) translate<-11.6,9.9,9.0>}
-object{Curtain(3.4,17,4,<.14,.24,.22>) translate<-15.5,19.6,-4.6>} object{Curtain(3.0,17,4,<.14,.24,.22>) translate<15.7,19.6,-4.6>}
+object{Curtain(3.4,17,4,<.14,.24,.22>) translate<-18.0,19.6,-4.0>} object{Curtain(3.0,17,4,<.14,.24,.22>) translate<18.2,19.6,-4.0>}
 #include "scenes/quay/closeups/wheelhouse_things.inc"
