@@ -17,8 +17,8 @@ from painting import CLOUD, H, HORIZON, W, X, Y, cliff, colours, lay, lighthouse
 
 SUN = (884, 446)
 # Every lamp: where it burns, how far its light reaches, how strong it is. The last one is the near tower's.
-LAMPS = [(716, 424, 5, .8), (770, 404, 6, .9), (838, 421, 5, .8), (964, 386, 9, 1.0), (620, 430, 4, .7), (566, 434, 4, .6), (172, 300, 12, 1.0), (330, 420, 5, .7), (1092, 196, 17, 1.35)]
-TOWERS = [(716, 424, .36), (770, 404, .5), (838, 421, .38), (964, 386, .8), (172, 300, 1.15), (620, 430, .3), (566, 434, .28), (330, 420, .4)]
+LAMPS = [(716, 424, 5, .8), (770, 404, 6, .9), (838, 421, 5, .8), (964, 386, 9, 1.0), (620, 430, 4, .7), (566, 434, 4, .6), (172, 312, 12, 1.0), (446, 428, 4, .6), (1092, 196, 17, 1.35)]
+TOWERS = [(716, 424, .36), (770, 404, .5), (838, 421, .38), (964, 386, .8), (172, 312, 1.15), (620, 430, .3), (566, 434, .28), (446, 428, .3)]
 
 
 def sky():
@@ -103,7 +103,7 @@ def reference():
     low = sea(np.clip(image, 0, 330))
     low = mix(low, rgb("#d8b4a8"), 0.16 * np.exp(-(Y - HORIZON) / 130))
     path = np.exp(-((X - SUN[0]) / (30 + 0.55 * np.clip(Y - HORIZON, 0, None))) ** 2)
-    sparkle = smooth(sample(painting.WAVE, (X - W / 2) / 300, (Y - HORIZON) ** .8 / 30), .05, .5)
+    sparkle = smooth(sample(painting.WAVE, (X - W / 2) / 300, np.clip(Y - HORIZON, 0, None) ** .8 / 30), .05, .5)
     low = low + (path * sparkle * 90 * np.exp(-(Y - HORIZON) / 240))[..., None] * np.array([1.0, 0.78, 0.44])
     image = mix(image, low, smooth(Y, HORIZON - 0.5, HORIZON + 1.0) * (1 - near * smooth(HORIZON + 11 - Y, 0, 3)))
     image = painting.mist(image)

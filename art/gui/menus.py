@@ -26,11 +26,11 @@ def highlight():
 
 
 def letter():
-    """The letter that ends the voyage."""
-    w, h = 700, 420
+    """The letter that ends the voyage, a tall sheet for the left half of the painting; heading at (-2, -226), text 390 x 350 around (-2, -10)."""
+    w, h = 500, 580
     body = f'<g filter="url(#deep)"><rect x="8" y="6" width="{w - 22}" height="{h - 22}" rx="4" fill="{INK}" opacity=".6"/></g>'
     body += sheet(8, 6, w - 22, h - 22, 4) + f'<rect x="24" y="22" width="{w - 54}" height="{h - 54}" rx="3" fill="none" stroke="#7a4a14" stroke-width="1.4" opacity=".5"/>'
-    body += flourish(w / 2 - 3, 52, 150) + flourish(w / 2 - 3, h - 60, 200) + seal(w - 92, h - 82, 36)
+    body += flourish(w / 2 - 3, 100, 170) + flourish(w / 2 - 60, h - 66, 130) + seal(w - 92, h - 82, 38)
     save("gui/endscreen/letter.png", w, h, body, colours=256)
 
 
