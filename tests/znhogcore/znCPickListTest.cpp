@@ -26,6 +26,7 @@ void znCPickListEar::messagesRegister()
     for (const Heard& heard : HEARD)
         znCHogMessageDispatcher::instanceGet()->listenerRegister(heard.mType, this);
     znCHogMessageDispatcher::instanceGet()->listenerRegister(znCHogMessageDispatcher::ADDED_ENTRY, this);
+    znCHogMessageDispatcher::instanceGet()->listenerRegister(znCHogMessageDispatcher::LEVEL_COMPLETE, this);
 }
 
 void znCPickListEar::messagesDeregister()
@@ -33,15 +34,21 @@ void znCPickListEar::messagesDeregister()
     for (const Heard& heard : HEARD)
         znCHogMessageDispatcher::instanceGet()->listenerDeregister(heard.mType, this);
     znCHogMessageDispatcher::instanceGet()->listenerDeregister(znCHogMessageDispatcher::ADDED_ENTRY, this);
+    znCHogMessageDispatcher::instanceGet()->listenerDeregister(znCHogMessageDispatcher::LEVEL_COMPLETE, this);
 }
 
 bool znCPickListEar::messageProcess(const znCUniqueId& pType, void* pData)
 {
     if (pType == znCHogMessageDispatcher::ADDED_ENTRY)
         ++mAdded;
+    if (pType == znCHogMessageDispatcher::LEVEL_COMPLETE)
+        mHeard += "LevelComplete; ";
     for (const Heard& heard : HEARD)
         if (pType == heard.mType)
+        {
             mHeard += heard.mName + *static_cast<std::string*>(pData) + "; ";
+            return !mLevelEnds;
+        }
     return false;
 }
 
@@ -53,6 +60,10 @@ void znCPickListTest::SetUp()
         for (const char* form : {"Single", "Plural"})
             strings += std::string(key) + form + " = \"" + key + form + "\",\r\n";
     mPlatform.mFiles.fileSet("strings.txt", strings);
+    for (const char* file : {"phint", "ppicklistcollecttrail", "pscorecollecttrail"})
+        mPlatform.mFiles.fileSet(std::string("particles/") + file + ".txt",
+                                 "maxParticles = 1 ;\nimageFileName = particles/p.png ;\n");
+    imageSet("particles/p.png", 8, 8);
     znCHogTest::SetUp();
     mListEar.messagesRegister();
 }
@@ -86,7 +97,7 @@ std::string znCPickListTest::listText(const std::string& pName, Kind pKind, s32 
 
 void znCPickListTest::open(const std::string& pCoords, const std::string& pGui, const std::string& pTable)
 {
-    mPlatform.mFiles.fileSet("gui/lists.txt", "znCSpriteComponent {\n name = sceneGui\n" + pGui + "}\n");
+    mPlatform.mFiles.fileSet("gui/lists.txt", "znCSpriteComponent {\n name = GameGui\n" + pGui + "}\n");
     imageSet("scenes/quay/background.png", 40, 40);
     sceneSet("quay", "Background.png,0,0\n" + pCoords, "GUI = \"gui/lists.txt\",\r\n" + pTable);
     sceneOpen("quay");
@@ -131,7 +142,7 @@ void znCPickListTest::collectAny()
 
 std::string znCPickListTest::playUntilMet()
 {
-    for (s32 i = 0; i < 8 * FIND_FRAMES && !mListEar.metGet(); ++i)
+    for (s32 i = 0; i < 8 * FIND_FRAMES && mListEar.heardGet().find("met ") == std::string::npos; ++i)
     {
         collectAny();
         frame();

@@ -53,21 +53,12 @@ struct Collectable
     const znICollectableComponent* mComponent;
 };
 
-// Those at and below a node; in the order of painting.
-void collectablesGet(znINode& pNode, std::vector<Collectable>& pOut)
-{
-    if (auto* entity = dynamic_cast<znCEntity*>(&pNode))
-        if (const auto* collectable = entity->componentFind<znICollectableComponent>())
-            pOut.push_back({entity, collectable});
-    for (znINode* child : pNode.childrenGet())
-        collectablesGet(*child, pOut);
-}
-
 std::vector<Collectable> levelCollectablesGet()
 {
     std::vector<Collectable> collectables;
     if (znIHogLevel* level = znIHogLevel::levelGet())
-        collectablesGet(*level, collectables);
+        for (znCEntity* entity : level->entitiesWithKindGet<znICollectableComponent>())
+            collectables.push_back({entity, entity->componentFind<znICollectableComponent>()});
     return collectables;
 }
 } // namespace
