@@ -35,8 +35,13 @@ def letter():
 
 
 def offer():
-    """The corner panel of the map: a picture to the left, words to the right."""
-    save("gui/maphud/offer.png", 440, 270, board(440, 270, 0), colours=256)
+    """The corner panel of the map: a note pinned to the chart, a picture to the left, words to the right."""
+    w, h = 420, 172
+    body = f'<g filter="url(#deep)"><rect x="6" y="6" width="{w - 16}" height="{h - 16}" rx="6" fill="{INK}"/></g>' + sheet(6, 6, w - 16, h - 16, 6) + rim(rounded(8, 8, w - 20, h - 20, 6), 6)
+    body += f'<rect x="18" y="17" width="188" height="144" fill="{INK}" opacity=".75"/>' + flourish(307, h - 26, 60)
+    for x, y, turn in ((6, 6, 0), (w - 10, 6, 90), (w - 10, h - 10, 180), (6, h - 10, 270)):
+        body += brass_corner(x, y, 30, turn)
+    save("gui/maphud/offer.png", w, h, body, colours=256)
 
 
 def frame():

@@ -195,7 +195,7 @@ def painted(body):
 
 def frame():
     """A carved frame of brass around a portrait; 224 x 284."""
-    body = f'<g filter="url(#deep)"><rect x="5" y="5" width="210" height="270" fill="{INK}"/></g>' + rim("M10 10H212V272H10Z", 9)
+    body = f'<g filter="url(#deep)"><path d="M4 4H218V278H4ZM15 15V267H207V15Z" fill="{INK}" fill-rule="evenodd"/></g>' + rim("M10 10H212V272H10Z", 9)
     for x, y, turn in ((8, 8, 0), (214, 8, 90), (214, 274, 180), (8, 274, 270)):
         body += brass_corner(x, y, 24, turn)
     save("gui/newplayer/frame.png", 224, 284, body, colours=128)

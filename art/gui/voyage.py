@@ -222,7 +222,7 @@ PLACES = {
 }
 CALLED_AT = ("quay", "cabin")
 STEAMER_SIZE, STEAMER = (188, 142), (712, 518)
-SHIP_PLACE = (0, -10)  # of the close-up, from the canvas's middle
+SHIP_PLACE = (0, -60)  # of the close-up, from the canvas's middle: clear of the panel below
 
 
 def drawing(picture, size, coloured, ground=True):
