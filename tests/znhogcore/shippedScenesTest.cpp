@@ -1,9 +1,8 @@
 // The scenes that ship, played to their ends by presses alone, as a player would who knows where everything lies; and
 // by one who knows nothing and only follows hints.
 
-#include "tests/znhogcore/znCHogTestProgram.h"
+#include "tests/znhogcore/shippedGame.h"
 #include "znappcore/components/znCSpriteComponent.h"
-#include "zncore/znNCoreUtils.h"
 #include "znhogcore/components/gui/znCGameGui.h"
 #include "znhogcore/components/gui/znCPickListGui.h"
 #include "znhogcore/components/znCBonusComponent.h"
@@ -20,80 +19,15 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <optional>
-#include <sstream>
 
 namespace fs = std::filesystem;
 
 namespace
 {
-constexpr s32 SECOND = 1000 / znCHogTestProgram::FRAME_MS; // frames
-constexpr s32 PLAY_MAX = 900 * SECOND;                     // in which a round must end
+constexpr s32 SECOND = ShippedGame::SECOND;
+constexpr s32 PLAY_MAX = 900 * SECOND; // in which a round must end
 constexpr s32 HINT_PAUSE = 15 * SECOND;
-
-// The program with the data that ships, in a window of the canvas's size.
-class ShippedGame : public znCHogTestProgram
-{
-public:
-    explicit ShippedGame(u32 pSeed)
-    {
-        const fs::path root = fs::path(PETREL_ROOT) / "data";
-        for (const auto& entry : fs::recursive_directory_iterator(root))
-        {
-            const std::string name = fs::relative(entry.path(), root).generic_string();
-            if (!entry.is_regular_file() || name.starts_with("audio/"))
-                continue;
-            std::ifstream file(entry.path(), std::ios::binary);
-            std::ostringstream content;
-            content << file.rdbuf();
-            mPlatform.mFiles.fileSet(name, content.str());
-        }
-        mPlatform.mWindow.modesSet({{1366, 768, 32, 60, 0}});
-        mPlatform.mDraw.mRecording = false;
-        start();
-        znNCoreUtils::randomSeedSet(pSeed);
-    }
-
-    void framesRun(s32 pCount)
-    {
-        for (s32 i = 0; i < pCount; ++i)
-            frame();
-        mFrames += pCount;
-    }
-
-    void sceneOpen(const std::string& pName)
-    {
-        znCHogCoreMain::instanceGet()->nextScreenSet(pName);
-        framesRun(2 * SECOND);
-    }
-
-    static znIHogLevel& level() { return *znIHogLevel::levelGet(); }
-    static bool open() { return znIHogLevel::levelGet() != nullptr; }
-
-    void pointer(bool pDown, const znPoint& pPos)
-    {
-        mPlatform.mInput.buttonQueue(0, pDown, pPos.mX, pPos.mY);
-        framesRun(1);
-    }
-    void tap(const znPoint& pPos)
-    {
-        pointer(true, pPos);
-        pointer(false, pPos);
-    }
-    void drag(const znPoint& pFrom, const znPoint& pTo)
-    {
-        pointer(true, pFrom);
-        mPlatform.mInput.motionQueue((pFrom.mX + pTo.mX) / 2, (pFrom.mY + pTo.mY) / 2);
-        framesRun(1);
-        mPlatform.mInput.motionQueue(pTo.mX, pTo.mY);
-        framesRun(1);
-        pointer(false, pTo);
-    }
-
-    s32 mFrames = 0;
-};
 
 // The pixels of an entity's picture, every pStep, that its hit map holds and that nothing in front of it covers.
 std::vector<znPoint> pixelsInSight(znCEntity* pEntity, s32 pStep)
@@ -349,15 +283,6 @@ std::optional<znPoint> hintPlaceWatch(ShippedGame& pGame)
     return znPoint((rounds->mLeft + rounds->mRight) / 2, (rounds->mTop + rounds->mBottom) / 2);
 }
 
-std::vector<std::string> faultsGet(ShippedGame& pGame)
-{
-    std::vector<std::string> faults;
-    std::istringstream log(pGame.mPlatform.logTake());
-    for (std::string line; std::getline(log, line);)
-        if (line.find("ERROR(") != std::string::npos && line.find("audio/") == std::string::npos)
-            faults.push_back(line);
-    return faults;
-}
 } // namespace
 
 TEST(shippedScenesTest, arePlayedToTheirEnds)
@@ -378,7 +303,7 @@ TEST(shippedScenesTest, arePlayedToTheirEnds)
             ASSERT_TRUE(ended());
             sailOn(game);
             rounds.push_back(player.mFound);
-            EXPECT_EQ(faultsGet(game), std::vector<std::string>());
+            EXPECT_EQ(game.faultsTake(), std::vector<std::string>());
         }
         EXPECT_EQ(rounds[0], rounds[1]) << scene << ": the same seed picks the same things";
         EXPECT_NE(rounds[0], rounds[2]) << scene << ": another seed picks others";
@@ -416,7 +341,7 @@ TEST(shippedScenesTest, areFinishedByWhoFollowsHints)
                 game.framesRun(HINT_PAUSE - 4 * SECOND);
             }
             EXPECT_TRUE(ended());
-            EXPECT_EQ(faultsGet(game), std::vector<std::string>());
+            EXPECT_EQ(game.faultsTake(), std::vector<std::string>());
         }
 }
 
