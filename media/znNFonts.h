@@ -29,6 +29,7 @@ float displayScaleGet();
 
 // How much larger than their fonts' sizes letters are laid out where there is room for that, 1 (at first) to
 // TEXT_SCALE_MAX; a number outside is limited. A text shows it at its next layout.
+// May be set before initialise, as a player's settings are; terminate forgets it.
 constexpr float TEXT_SCALE_MAX = 2.0f;
 void textScaleSet(float pScale);
 float textScaleGet();

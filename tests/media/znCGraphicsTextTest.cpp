@@ -440,6 +440,19 @@ TEST_F(znCGraphicsTextTest, GrowsWithTheTextScaleWhereThereIsRoom)
     EXPECT_EQ(mPlatform.logCountGet("does not fit its box"), 2);
 }
 
+TEST_F(znCGraphicsTextTest, GrowsByAScaleThatWasSetBeforeThereAreFonts)
+{
+    const s32 width = textMake("lamp").widthGet();
+    znNFonts::terminate();
+    znNFonts::textScaleSet(1.5f);
+    znNFonts::initialise();
+    znCGraphicsFont font;
+    ASSERT_TRUE(font.load(znCResourceName(sClarendon, znCResourceName::GAME_DATA), 30));
+    znCGraphicsText text;
+    text.prepare(font, "lamp", sWide, 1000, 0, 0);
+    EXPECT_GT(text.widthGet(), width * 14 / 10);
+}
+
 TEST(znCGraphicsText, IsEmptyWithoutTheFontLayer)
 {
     znCGraphicsFont font;
