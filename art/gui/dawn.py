@@ -12,7 +12,7 @@ from PIL import Image
 from scipy.ndimage import gaussian_filter
 
 import painting
-from kit import WORK, photo, raster
+from kit import WORK, pack, photo, raster
 from painting import CLOUD, H, HORIZON, W, X, Y, cliff, colours, lay, lighthouse, mix, rgb, sample, sea, ship, smooth
 
 SUN = (884, 446)
@@ -128,11 +128,19 @@ def detail_map(picture):
     return np.clip(gaussian_filter(drawn, 6) * smooth(fine, 1.2, 5.0), 0, 1)
 
 
+def thumbnail(dawn):
+    """What the map's panel shows when no place is on offer: the ship and the light."""
+    pack(dawn.convert("RGBA").resize((180, 136), Image.LANCZOS, (680, 140, 1180, 140 + 500 * 136 / 180)), "gui/maphud/thumbnail_none.png", 256)
+
+
 def main():
     picture = reference()
     Image.fromarray(picture.astype(np.uint8)).save(f"{WORK}/dawn.png")
-    if "draft" not in sys.argv:
-        photo(Image.fromarray(np.clip(painting.paint(picture, detail_map(picture)), 0, 255).astype(np.uint8)), "scenes/end/backgroundend.jpg", 91)
+    if "draft" in sys.argv:
+        return
+    dawn = Image.fromarray(np.clip(painting.paint(picture, detail_map(picture)), 0, 255).astype(np.uint8))
+    photo(dawn, "scenes/end/backgroundend.jpg", 91)
+    thumbnail(dawn)
 
 
 if __name__ == "__main__":

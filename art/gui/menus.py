@@ -51,11 +51,6 @@ def frame():
     save("gui/maphud/frame.png", 212, 168, body, colours=128)
 
 
-def blank():
-    """The picture of a place that has none: paper with a petrel's flourish."""
-    save("gui/maphud/thumbnail_none.png", 180, 136, sheet(0, 0, 180, 136, 2) + flourish(90, 68, 60), colours=64)
-
-
 def close(name, fill, metal):
     body = f'<g filter="url(#shadow)"><circle cx="20" cy="19" r="15" fill="url(#{fill})" stroke="{INK}" stroke-width="2"/></g><circle cx="20" cy="19" r="15" fill="none" stroke="url(#{metal})" stroke-width="3.4"/>'
     body += '<path d="M14 13L26 25M26 13L14 25" stroke="#f6e7c1" stroke-width="3.4" stroke-linecap="round"/>'
@@ -90,7 +85,6 @@ def main():
     letter()
     offer()
     frame()
-    blank()
     close("close", "enamel", "brass")
     close("close_over", "enamelover", "brassbright")
     for name in MEDALS:
