@@ -272,7 +272,12 @@ void znIHogLevel::hintShow(znCEntity* pEntity)
         znCResourceName(HINT_PARTICLES, znCResourceName::GAME_DATA));
     // A GUI without the button has another way to ask for a hint: it comes from the middle of the screen then.
     const znPoint start = button != nullptr ? button->posRelativeToAncestorGet(parentGet()) : znPoint(0, 0);
-    effect->componentAdd<znCHookedLineTrailComponent>()->trailInitialise(start, pEntity->posGet(), HINT_MS, true);
+    // The object may lie in another sub-scene than the one on top.
+    const znPoint origin = subScene->entityGet()->posGet();
+    const znPoint end = pEntity->posRelativeToAncestorGet(this);
+    effect->componentAdd<znCHookedLineTrailComponent>()->trailInitialise(
+        znPoint(start.mX - origin.mX, start.mY - origin.mY), znPoint(end.mX - origin.mX, end.mY - origin.mY), HINT_MS,
+        true);
     znCHogUserSavedData::instanceGet()->s32Set(znCHogUserSavedData::HINT_FREE_STREAK, znCHogUserSavedData::HINT_USED);
 }
 

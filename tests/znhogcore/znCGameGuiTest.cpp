@@ -143,9 +143,21 @@ TEST_F(znCGameGuiTest, hintsAtADoorThatLeadsToWork)
     addedEntrySend();
     button(HINT_X);
     const znPoint place = hintFollow();
-    EXPECT_NEAR(std::abs(place.mX), 300, 5); // into the crate, which leads on, or straight into the cabin
-    EXPECT_NEAR(place.mY, 0, 5);
+    EXPECT_NEAR(std::abs(place.mX), 300, 10); // into the crate, which leads on, or straight into the cabin
+    EXPECT_NEAR(place.mY, 0, 10);
     EXPECT_EQ(streakGet(), znCHogUserSavedData::HINT_USED);
+}
+
+TEST_F(znCGameGuiTest, hintsAtADoorBesideACloseUpWhereItLies)
+{
+    openRoom("SUB2-cabin.png,-300,0\n", "NAV-in.png,0,0\n", "PCK-map.png,0,0\n");
+    activate("PCK-map.png");
+    addedEntrySend();
+    subSceneOpen(1);
+    button(HINT_X);
+    const znPoint place = hintFollow();
+    EXPECT_NEAR(place.mX, -300, 10);
+    EXPECT_NEAR(place.mY, 0, 10);
 }
 
 TEST_F(znCGameGuiTest, hintsOnlyAtWhatThePlayerCanPress)

@@ -5,19 +5,19 @@
 #ifndef(SHOW) #declare SHOW=-1; #end
 #ifndef(BOUNCE) #declare BOUNCE=0; #end
 global_settings{assumed_gamma 1.0 max_trace_level 6
- #if(BOUNCE) radiosity{pretrace_start .08 pretrace_end .02 count 35 nearest_count 6 error_bound .9 recursion_limit 1 low_error_factor .6 gray_threshold .15 minimum_reuse .015 brightness 1.0} #end}
+ #if(BOUNCE) radiosity{pretrace_start .08 pretrace_end .04 count 20 nearest_count 5 error_bound 1.2 recursion_limit 1 low_error_factor .7 gray_threshold .15 minimum_reuse .02 brightness 1.0} #end}
 #include "povray/props.inc"
 #declare Sd=seed(4242);
 camera{location<0,14,-37> right x*1.06 up y*1.06*768/1366 direction<0,-.164,1>}   // a shifted lens: the floor lies under the game's panel
 // One light: the hanging oil lamp; a candle on the desk, a bulkhead lamp over the books, the moon through the porthole.
 #declare HL=<-4.9,14.2,-1.0>;
-light_source{HL+<0,1.5,-.2> srgb<1,.70,.36>*2.1 area_light x*1.2,z*1.2,3,3 adaptive 0 circular orient fade_distance 11 fade_power 2}
+light_source{HL+<0,1.5,-.2> srgb<1,.70,.36>*1.75 area_light x*1.2,z*1.2,3,3 adaptive 0 circular orient fade_distance 11 fade_power 2}
 light_source{<10.2,10.6,-1.2> srgb<1,.64,.28>*1.2 area_light x*.6,y*.6,2,2 adaptive 0 circular orient fade_distance 6 fade_power 2}
 light_source{<16.5,17,-3> srgb<1,.76,.46>*.9 area_light x*1.5,y*1.5,2,2 adaptive 0 circular orient fade_distance 11 fade_power 2}
-light_source{<-10,22,-34> srgb<1,.78,.52>*.34 area_light x*9,y*9,3,3 adaptive 0 circular orient}
-light_source{<-15,10,-8> srgb<1,.70,.40>*.34 fade_distance 9 fade_power 2 shadowless}
+light_source{<-10,22,-34> srgb<1,.80,.56>*.60 area_light x*9,y*9,3,3 adaptive 0 circular orient}
+light_source{<-15,10,-8> srgb<1,.72,.44>*.62 fade_distance 9 fade_power 2 shadowless}
 light_source{<-24,24,34> srgb<.46,.62,1>*.95}
-light_source{<14,10,-40> srgb<.36,.46,.72>*.20 shadowless}
+light_source{<14,10,-40> srgb<.42,.50,.74>*.36 shadowless}
 // ---------------- shell
 #declare WallW=array[6]{<.64,.38,.17>,<.58,.33,.14>,<.68,.42,.19>,<.56,.32,.13>,<.64,.37,.16>,<.60,.38,.18>}
 #declare PortA=<-13.4,12.8,10>; #declare PR=2.7;
@@ -35,7 +35,7 @@ object{RBox(<-21,5.9,9.3>,<21,6.5,10.5>,.12) texture{T_Walnut}} object{RBox(<-21
 union{ #for(i,0,4) object{RBox(<-19.5+i*9.4,19.0,-2>,<-18.2+i*9.4,20.6,10>,.14) texture{Wood(C_Walnut*1.1,1,F_Satin) rotate y*90}} #end box{<-22,20.4,-2>,<22,20.8,10.5> texture{Wood(<.80,.74,.60>,.6,F_Satin)}} no_shadow}
 // ---------------- porthole and sea
 box{<-40,-20,24>,<14,34,24.1> texture{pigment{image_map{png concat(TEX,"evening.png") interpolate 2} translate<-.32,-.06,0> scale<64,22,1> translate<-20.6,6.5,0>} finish{emission rgb<.16,.24,.46> diffuse 0}} no_shadow}
-disc{<-20.9,14.6,23.9>,z,.85 texture{pigment{srgb<1,.96,.84>} finish{emission 1 diffuse 0}} no_shadow}
+disc{<-18.3,13.7,23.9>,z,.62 texture{pigment{srgb<1,.96,.84>} finish{emission 1 diffuse 0}} no_shadow}
 union{torus{PR+.35,.42 rotate x*90 texture{T_Brass}} torus{PR-.05,.16 rotate x*90 translate z*-.2 texture{T_Gold}} #for(k,0,11) sphere{<(PR+.55)*cos(k*pi/6),(PR+.55)*sin(k*pi/6),-.42>,.16 texture{T_Gold}} #end
  cylinder{<0,0,.1>,<0,0,.12>,PR texture{pigment{srgbt<.93,.97,1,.95>} finish{specular .6 roughness .01 diffuse 0 reflection{.02,.2}}} no_shadow} difference{cylinder{<0,0,-.1>,<0,0,1>,PR+.4} cylinder{<0,0,-2>,<0,0,2>,PR} texture{T_OldBrass}}
  box{<-.25,-PR-1.0,-.5>,<.25,-PR-.1,-.1> texture{T_Brass}} sphere{<0,-PR-1.1,-.4>,.3 texture{T_Gold}} box{<PR+.2,-.5,-.35>,<PR+.9,.5,.1> texture{T_Brass}} translate PortA-z*.1}

@@ -1,4 +1,4 @@
-"""Draws the flicker of the quay's lamps: four frames of warm light, side by side, to data/scenes/quay/lamp_glow.png.
+"""Draws the flicker of lamps: four frames of warm light, side by side, to lamp_glow.png in the folders of the scenes that have lamps.
 
 Run with /usr/bin/python3 from any folder; needs python3-numpy and python3-pil.
 """
@@ -24,5 +24,6 @@ def frame(strength, reach):
 
 
 strip = numpy.concatenate([frame(s, r) for s, r in zip(STRENGTHS, REACHES)], axis=1)
-target = pathlib.Path(__file__).resolve().parents[3] / "data/scenes/quay/lamp_glow.png"
-Image.fromarray(strip, "RGBA").save(target, optimize=True)
+for scene in ("quay", "cabin"):
+    target = pathlib.Path(__file__).resolve().parents[3] / "data/scenes" / scene / "lamp_glow.png"
+    Image.fromarray(strip, "RGBA").save(target, optimize=True)
