@@ -338,7 +338,7 @@ TEST(shippedScenesTest, areFinishedByWhoFollowsHints)
                 const std::optional<znPoint> place = hintPlaceWatch(game);
                 if (!ended() && place)
                     EXPECT_TRUE(player.hintFollow(*place)) << place->mX << "," << place->mY;
-                game.framesRun(HINT_PAUSE - 4 * SECOND);
+                game.framesRun(HINT_PAUSE);
             }
             EXPECT_TRUE(ended());
             EXPECT_EQ(game.faultsTake(), std::vector<std::string>());
