@@ -104,6 +104,11 @@ float znNFonts::displayScaleGet()
     return sLayer != nullptr ? sLayer->mDisplayScale : 1.0f;
 }
 
+u32 znNFonts::glyphUvGenerationGet()
+{
+    return sLayer != nullptr ? sLayer->mStore.uvGenerationGet() : 0;
+}
+
 const znCGraphicsTexture* znNFonts::glyphTextureGet()
 {
     return sLayer != nullptr ? sLayer->mStore.textureGet() : nullptr;
