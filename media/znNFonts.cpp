@@ -119,6 +119,11 @@ float znNFonts::textScaleGet()
     return sTextScale;
 }
 
+u32 znNFonts::glyphUvGenerationGet()
+{
+    return sLayer != nullptr ? sLayer->mStore.uvGenerationGet() : 0;
+}
+
 const znCGraphicsTexture* znNFonts::glyphTextureGet()
 {
     return sLayer != nullptr ? sLayer->mStore.textureGet() : nullptr;

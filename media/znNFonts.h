@@ -38,6 +38,9 @@ float textScaleGet();
 // glyph.
 const znCGraphicsTexture* glyphTextureGet();
 
+// Changes whenever texture coordinates of glyphs do.
+u32 glyphUvGenerationGet();
+
 // How many glyphs have been drawn from their outlines since initialise(): each once a size and scale.
 s32 glyphsRasterisedGet();
 } // namespace znNFonts

@@ -26,10 +26,15 @@ bool blendKnown(u32 pBlend)
            pBlend == S3E_DRAW_BLEND_ALPHA;
 }
 
+// Of each vertex so many numbers.
 template <class T>
-std::vector<T> streamCopy(const T* pStream, s32 pCount)
+std::vector<T> streamCopy(const T* pStream, s32 pVertices, s32 pNumbers, s32 pStride)
 {
-    return pStream != nullptr ? std::vector<T>(pStream, pStream + pCount) : std::vector<T>();
+    std::vector<T> copy;
+    const std::ptrdiff_t step = pStride == 0 ? pNumbers : pStride / static_cast<s32>(sizeof(T));
+    for (s32 i = 0; pStream != nullptr && i < pVertices; ++i, pStream += step)
+        copy.insert(copy.end(), pStream, pStream + pNumbers);
+    return copy;
 }
 } // namespace
 
@@ -116,9 +121,22 @@ void znCTestDraw::flush()
     ++mFlushCount;
     for (const s3eDrawRun& run : mQueued)
         mFrame.push_back({run.mTexture, run.mBlend, run.mColour, run.mVertexCount,
-                          streamCopy(run.mPositions, run.mVertexCount * 2), streamCopy(run.mUvs, run.mVertexCount * 2),
-                          streamCopy(run.mColours, run.mVertexCount)});
+                          streamCopy(run.mPositions, run.mVertexCount, 2, run.mStride),
+                          streamCopy(run.mTexture != 0 ? run.mUvs : nullptr, run.mVertexCount, 2, run.mStride),
+                          streamCopy(run.mColours, run.mVertexCount, 1, run.mStride), run.mUnchanged != 0});
+    unchangedCheck();
     mQueued.clear();
+}
+
+// Runs that are said to be those of the flush before are compared with them.
+void znCTestDraw::unchangedCheck()
+{
+    for (std::size_t i = 0; i < mFrame.size() && mFrame[i].mUnchanged; ++i)
+        if (i >= mFlushed.size() || mFrame[i].mPositions != mFlushed[i].mPositions ||
+            mFrame[i].mUvs != mFlushed[i].mUvs || mFrame[i].mColours != mFlushed[i].mColours)
+            mFaults.push_back("flush: a run that should be unchanged differs");
+    if (mRecording)
+        mFlushed = mFrame;
 }
 
 void znCTestDraw::present()

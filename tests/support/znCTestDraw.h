@@ -32,6 +32,7 @@ public:
         std::vector<float> mPositions;
         std::vector<float> mUvs;   // empty when there were none
         std::vector<u32> mColours; // empty when mColour counts
+        bool mUnchanged;           // said to be those of the flush before
     };
 
     // --- for the test ---
@@ -62,8 +63,10 @@ public:
 
 private:
     void runCheck(const s3eDrawRun& pRun);
+    void unchangedCheck();
 
     std::vector<s3eDrawRun> mQueued;
+    std::vector<Run> mFlushed; // by the flush before
     u32 mNextTexture = 1;
 };
 
