@@ -33,6 +33,21 @@ const Exhibit EXHIBITS[] = {
      {{"MusicVolume", "0.4"}, {"EffectsVolume", "0.6"}, {"CurrLev", "quay"}, {"currency", "0"}},
      {{"MusicVolume", "0.25"}, {"MuteAll", "1"}, {"CustomCursors", "0"}, {"currency", "35"}},
      {"HOT-brass_bell.png", "HOT-telescope.png"}},
+    // All keys of a player; of a scene also its lists, the counts of its bonus items and its celebration.
+    {"2",
+     "quay",
+     {{"NumProfiles", "2"}, {"CurrProfile", "0"}, {"ProfileName0", "Anna"}, {"ProfileName1", "Ben"}},
+     {{"MusicVolume", "0.4"},
+      {"Casual", "0"},
+      {"Male", "1"},
+      {"CurrLev", "quay"},
+      {"currency", "120"},
+      {"lostAndFoundCount", "3"},
+      {"trashCount", "4"},
+      {"miniGameCount", "2"},
+      {"succesiveHintFreeLevel", "1"}},
+     {{"MusicVolume", "0.25"}, {"MuteAll", "1"}, {"CustomCursors", "0"}, {"currency", "35"}},
+     {"HOT-brass_bell.png", "HOT-telescope.png"}},
 };
 
 znCVariableTable tableRead(const fs::path& pPath)
