@@ -5,6 +5,8 @@
 #include "znhogcore/components/znCBonusSilhouetteComponent.h"
 #include "znhogcore/src/znCHogMessageDispatcher.h"
 
+#include <algorithm>
+
 namespace
 {
 constexpr znCUniqueId MESSAGES[] = {
@@ -12,6 +14,7 @@ constexpr znCUniqueId MESSAGES[] = {
     znCHogMessageDispatcher::CONTINUE_GAME, // found things outlast both, so there is nothing to do
     znCHogMessageDispatcher::REPLAY_LEVEL,
 };
+constexpr s32 THINGS_MAX = 1000000; // of a save; a damaged one may say anything
 } // namespace
 
 znCBonusEntityCountComponent::znCBonusEntityCountComponent(znCEntity* pEntity)
@@ -62,5 +65,5 @@ void znCBonusEntityCountComponent::myLoad(std::string& pIn)
 {
     znINode::strLoad(pIn);
     for (s32* value : {&mBonusCollected, &mBonusTotal, &mSilhouetteCollected, &mSilhouetteTotal})
-        *value = znINode::s32Load(pIn);
+        *value = std::clamp(znINode::s32Load(pIn), 0, THINGS_MAX);
 }
