@@ -183,6 +183,25 @@ TEST_F(znCRoundCongratulationsGuiTest, beginsItsStageAnewWhenItsLevelComesBack)
     }
 }
 
+// Sparkles stand beside the pieces, under the pieces' names.
+TEST_F(znCRoundCongratulationsGuiTest, itsSparklesLeaveThePiecesAloneInASave)
+{
+    rowOpen(4);
+    framesRun(SWEEP_DELAY_MS + 4 * SWEEP_STEP_MS);
+    EXPECT_EQ(sparklingGet(), (std::set<s32>{0, 1, 2, 3}));
+    for (s32 i = 0; i < 2; ++i)
+    {
+        levelEnd(false);
+        mEndEar.take();
+        sceneOpen("a_game");
+        for (const char* name : {"TST-p0.png", "TST-p1.png", "TST-p2.png", "TST-p3.png"})
+            EXPECT_EQ(piece(name).completeStateGet(), znIMinigameComponent::eComplete) << name;
+        EXPECT_TRUE(wellDoneStands());
+    }
+    framesRun(WELL_DONE_MS);
+    EXPECT_EQ(mEndEar.take(), "LevelCompleteCongrats LevelComplete ");
+}
+
 TEST_F(znCRoundCongratulationsGuiTest, startsOverBehindAReset)
 {
     piecesSet("quay", {{0, 0}});
@@ -198,6 +217,22 @@ TEST_F(znCRoundCongratulationsGuiTest, startsOverBehindAReset)
     win();
     framesRun(CELEBRATION_MS);
     EXPECT_EQ(mEndEar.take(), "LevelCompleteCongrats LevelComplete ");
+}
+
+// Also where no round score asks the player to go on.
+TEST_F(znCRoundCongratulationsGuiTest, isNotRepeatedInALevelThatWasLeft)
+{
+    piecesSet("quay", {{0, 0}});
+    sceneOpen("quay");
+    win();
+    framesRun(CELEBRATION_MS + 3 * znCHogCoreMain::SCREEN_FADE_MS);
+    EXPECT_EQ(mEndEar.take(), "LevelCompleteCongrats LevelComplete ");
+    EXPECT_EQ(level().levelNameGet(), "shop");
+    levelEnd();
+    sceneOpen("quay");
+    framesRun(CELEBRATION_MS);
+    EXPECT_EQ(mEndEar.take(), "");
+    EXPECT_EQ(piece("TST-p0.png").completeStateGet(), znIMinigameComponent::eIncomplete);
 }
 
 TEST_F(znCRoundCongratulationsGuiTest, celebratesAlsoWithoutItsFiles)
