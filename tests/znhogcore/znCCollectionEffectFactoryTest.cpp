@@ -274,6 +274,22 @@ TEST_F(znCFlyingEffectsTest, endWithoutATarget)
     level().scaleSet(1.0f);
 }
 
+TEST_F(znCFlyingEffectsTest, arriveFromTheEndOfTheWorld)
+{
+    levelEnd();
+    sceneSet("far", "Background.png,0,0\nBNS-jar.png,2147483647,-2147483648\nBNS-pin.png,-2147483648,2147483647\n");
+    sceneOpen("far");
+    errorsTake(); // of the font
+    for (const char* name : {"BNS-jar.png", "BNS-pin.png"})
+    {
+        activate(name);
+        collectable(name).collectionProcessTrigger();
+    }
+    frame((FLIGHT_MS + 100) / FRAME_MS);
+    EXPECT_EQ(stateGet("BNS-jar.png"), COLLECTED);
+    EXPECT_EQ(stateGet("BNS-pin.png"), COLLECTED);
+}
+
 TEST_F(znCFlyingEffectsTest, ofAFormerPlayDoNotReachIntoTheNext)
 {
     tap(200, 0);

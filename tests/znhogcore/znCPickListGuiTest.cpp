@@ -383,6 +383,24 @@ TEST_F(znCPickListGuiTest, endsInASceneThatHasChanged)
     }
 }
 
+TEST_F(znCPickListGuiTest, endsWhateverNumbersADamagedSaveHolds)
+{
+    for (const char* numbers : {"2147483647,2147483647,2147483647,", "-5,-5,-5,", "3,2147483647,2,", "3,0,9,", ""})
+    {
+        SCOPED_TRACE(numbers);
+        open(SIX, listText("hogPickList", Kind::single, 2, REQUIRED), "numHogItems = \"3\",\r\n");
+        frame(2 * ADD_FRAMES);
+        std::string saved = numbers;
+        auto* list = find("hogPickList")->componentGet<znCPickListGui>();
+        list->myLoad(saved);
+        list->myPostLoad();
+        send(znCHogMessageDispatcher::LEVEL_LOAD_COMP);
+        EXPECT_EQ(playToEnd(), "add hogPickList; met hogPickList; ");
+        levelEnd();
+        errorsTake(); // the text breaks off
+    }
+}
+
 // --- hints ---
 
 TEST_F(znCPickListGuiTest, pointsAtEverythingInTurn)

@@ -309,6 +309,72 @@ TEST_F(znCRoundScoreGuiTest, paysOnceHoweverTheLevelIsLeft)
     }
 }
 
+// A scene ends by its list, which reports itself anew when the scene comes back.
+TEST_F(znCRoundScoreGuiTest, paysASceneWithAListOnceHoweverItIsLeft)
+{
+    constexpr s32 FIND_MS = 2000;    // the flight to the list
+    constexpr s32 REWARD = 10 + 100; // the find, and no hint
+    struct Case
+    {
+        const char* mWhat;
+        s32 mAtMs; // behind the press on the last thing
+        s32 mCurrency;
+    };
+    const Case cases[] = {
+        {"on its way to the list", FIND_MS / 2, 0},
+        {"in the sweep", FIND_MS + 500, 10},
+        {"well done", FIND_MS + 2000, 10},
+        {"score on view", FIND_MS + CELEBRATION_MS + SHOW_DELAY_MS + 500, REWARD},
+    };
+    panelSet("znCSpriteComponent { name = gameGuiHintButton posX = 100 posY = 50 }\n"
+             "znCPickListGui { name = hogPickList requiredForActCompletion = true randomEntityTypes = PCK-\n"
+             " znCSingleItemPickListEntryGui { name = pickItem0\n"
+             "  znCTextSpriteComponent { name = pickListEntryText font = f.ttf fontSize = 20 }\n }\n}\n");
+    sceneSet("quay", "Background.png,0,0\nPCK-can.png,0,100\n",
+             "ACT1NextLev = \"shop\",\r\nrewardLayoutFile = \"gui/score.txt\",\r\n");
+    sceneSet("shop", "Background.png,0,0\n");
+    znCProfileManager::instanceGet()->profileCreate("Ann");
+    for (const Case& c : cases)
+    {
+        SCOPED_TRACE(c.mWhat);
+        sceneOpen("quay");
+        user().s32Set(znCHogUserSavedData::CURRENCY, 0);
+        streakSet(1);
+        framesRun(200);
+        tap(0, 100);
+        framesRun(c.mAtMs);
+        EXPECT_EQ(roundScore() != nullptr, c.mCurrency == REWARD);
+        errorsTake(); // of the font
+        restart();
+        EXPECT_EQ(currencyGet(), c.mCurrency);
+        if (c.mCurrency == REWARD)
+        {
+            EXPECT_EQ(user().currentLevelGet(), "shop");
+            continue;
+        }
+        sceneOpen("quay");
+        framesRun(FIND_MS + CELEBRATION_MS + SHOW_DELAY_MS + 500);
+        ASSERT_NE(roundScore(), nullptr);
+        EXPECT_EQ(currencyGet(), REWARD);
+        EXPECT_EQ(rowsGet(), "-|-|-|-||100");
+        EXPECT_EQ(shownGet("score"), std::to_string(REWARD));
+        // Played again, it is won again.
+        tap(REPLAY_X, 0);
+        framesRun(200);
+        EXPECT_EQ(roundScore(), nullptr);
+        tap(0, 100);
+        framesRun(FIND_MS + CELEBRATION_MS + SHOW_DELAY_MS + 500);
+        ASSERT_NE(roundScore(), nullptr);
+        EXPECT_EQ(currencyGet(), 2 * REWARD);
+        tap(CONTINUE_X, 0);
+        framesRun(3 * znCHogCoreMain::SCREEN_FADE_MS);
+        EXPECT_EQ(level().levelNameGet(), "shop");
+        EXPECT_EQ(currencyGet(), 2 * REWARD);
+        levelEnd();
+        errorsTake(); // of the font
+    }
+}
+
 TEST_F(znCRoundScoreGuiTest, isNotPaidTwiceForAFileThatGivesItAnotherName)
 {
     open("a_game");
