@@ -78,6 +78,19 @@ TEST_F(znICollectableComponentTest, isFoundByATapThatStartsAndEndsOnIt)
     }
 }
 
+TEST_F(znICollectableComponentTest, isFoundAlsoBesideOneOfItsName)
+{
+    sceneSet("quay", "Background.png,0,0\nHOT-gull.png,0,0\nHOT-gull.png,200,0\n");
+    open();
+    tap(0, 0);
+    frame(SHOW_FRAMES);
+    EXPECT_EQ(stateGet("HOT-gull.png"), COLLECTED);
+    EXPECT_EQ(stateGet("HOT-gull.png#2"), ACTIVE);
+    tap(200, 0);
+    frame(SHOW_FRAMES);
+    EXPECT_EQ(stateGet("HOT-gull.png#2"), COLLECTED);
+}
+
 TEST_F(znICollectableComponentTest, waitsUntilItIsActivated)
 {
     open();

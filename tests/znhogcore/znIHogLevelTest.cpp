@@ -46,6 +46,19 @@ TEST_F(znIHogLevelTest, leadsAHintFromItsButtonToTheObject)
     EXPECT_EQ(find("HintEffect")->parentGet(), find("SubScene1"));
 }
 
+TEST_F(znIHogLevelTest, leadsAHintThroughAnEnlargedScene)
+{
+    mPlatform.mFiles.fileSet("gui/hoggui/hoggui.txt",
+                             "znCGameGui { name = GameGui modal = false\n"
+                             "znCSpriteComponent { name = gameGuiHintButton posX = -300 posY = 250 }\n}\n");
+    sceneSet("quay", "Background.png,0,0\nHOT-gull.png,200,-100\n");
+    sceneOpen("quay");
+    find("SubScene0")->posSet(100, 50);
+    find("SubScene0")->scaleSet(2.0f, 2.0f);
+    level().hintShow(find("HOT-gull.png"));
+    EXPECT_EQ(find("HintEffect")->posGet(), znPoint(-200, 100));
+}
+
 TEST_F(znIHogLevelTest, givesAHintAlsoWithoutAButtonOrAnOpenSubScene)
 {
     sceneSet("quay", "Background.png,0,0\nHOT-gull.png,200,-100\n");

@@ -32,6 +32,7 @@ public:
     bool keyTry(znCEntity* pKeyEntity, znCSpriteComponent* pDragSprite);
     // The key of pKeyEntity is one of this lock's and is still unused.
     bool keyNeeded(const znCEntity* pKeyEntity);
+    std::vector<std::string> keysGet() const; // all that it needs to open, used or not
     // Opens the lock without its keys; nothing happens if all are used already.
     void forceComplete();
 
