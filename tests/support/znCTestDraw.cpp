@@ -52,8 +52,9 @@ u32 znCTestDraw::textureCreate(s32 pFormat, s32 pWidth, s32 pHeight, const void*
         return 0;
     }
     const u32 id = mNextTexture++;
-    mTextures[id] = {pFormat, pWidth, pHeight,
-                     std::vector<u8>(static_cast<std::size_t>(pWidth) * static_cast<std::size_t>(pHeight * texel)), 0};
+    mTextures[id] = {pFormat, pWidth, pHeight, {}, 0};
+    if (mRecording)
+        mTextures[id].mPixels.resize(static_cast<std::size_t>(pWidth) * static_cast<std::size_t>(pHeight * texel));
     if (pPixels != nullptr)
     {
         textureUpdate(id, 0, 0, pWidth, pHeight, pPixels, pPitch);
@@ -74,7 +75,7 @@ s3eResult znCTestDraw::textureUpdate(u32 pTexture, s32 pX, s32 pY, s32 pWidth, s
     }
     Texture& texture = found->second;
     const s32 texel = texelSizeGet(texture.mFormat);
-    for (s32 row = 0; row < pHeight; ++row)
+    for (s32 row = 0; row < pHeight && !texture.mPixels.empty(); ++row)
         std::memcpy(texture.mPixels.data() + ((pY + row) * texture.mWidth + pX) * texel,
                     static_cast<const u8*>(pPixels) + static_cast<std::ptrdiff_t>(row) * pPitch,
                     static_cast<std::size_t>(pWidth * texel));

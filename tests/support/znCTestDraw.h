@@ -19,7 +19,7 @@ public:
         s32 mFormat;
         s32 mWidth;
         s32 mHeight;
-        std::vector<u8> mPixels; // rows without gaps
+        std::vector<u8> mPixels; // rows without gaps; empty when it was made without recording
         s32 mUpdateCount = 0;
     };
 
@@ -37,7 +37,7 @@ public:
 
     // --- for the test ---
     bool mPresent = true;   // s3eExtGetHash finds the table
-    bool mRecording = true; // off: runs are counted only, and nothing is allocated
+    bool mRecording = true; // off: runs are counted only, nothing is allocated, and new textures keep no pixels
     s32 mSizeLimit = 8192;
     s32 mCreateFailCount = 0; // so many of the next textureCreate calls fail; -1: all
     std::map<u32, Texture> mTextures;
