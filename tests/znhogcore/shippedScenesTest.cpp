@@ -227,7 +227,7 @@ std::vector<std::string> scenesGet()
     for (const auto& entry : fs::directory_iterator(fs::path(PETREL_ROOT) / "data" / "scenes"))
     {
         const std::string name = entry.path().filename();
-        if (name != "map" && name != "end")
+        if (fs::exists(entry.path() / "coords.txt") && name != "map" && name != "end")
             scenes.push_back(name);
     }
     std::sort(scenes.begin(), scenes.end());
