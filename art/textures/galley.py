@@ -1,10 +1,9 @@
 #!/usr/bin/python3
 """Image maps of the galley: blue-and-white tiles, the view through its portholes, cook's papers, labels of the larder."""
-import math
 import random
 
 import numpy as np
-from PIL import Image, ImageFilter
+from PIL import Image, ImageDraw, ImageFilter
 
 from paint import OUT, T, svg
 
@@ -44,26 +43,51 @@ def tiles():
 
 
 def morning():
-    """Sea and sky an hour after sunrise."""
-    width, height, line = 1024, 512, 300
+    """Sea and sky an hour after sunrise: the sun in the one porthole, a headland with its light in the other."""
+    width, height, line, sun = 2048, 1024, 600, (1118, 520)
     y, x = np.mgrid[0:height, 0:width]
     up = np.clip((line - y) / line, 0, 1)[..., None]
-    sky = np.array([1.0, .93, .78]) * (1 - up) ** 2 + np.array([.50, .74, .95]) * (1 - (1 - up) ** 2)
-    glow = np.exp(-(((x - 300) / 240.) ** 2 + ((y - 250) / 120.) ** 2))[..., None]
-    sky = sky * (1 - .75 * glow) + np.array([1, .97, .86]) * .75 * glow
+    low = np.exp(-(up * 5) ** 2)
+    sky = np.array([.42, .68, .93]) * (1 - low) + np.array([1.0, .90, .72]) * low
+    far = np.hypot(x - sun[0], (y - sun[1]) * .9)[..., None]
+    glow = np.clip(.9 * np.exp(-(far / 90) ** 2) + .35 * np.exp(-(far / 420) ** 2), 0, 1)
+    sky = sky * (1 - glow) + np.array([1, .94, .76]) * glow
+    sky = np.where(far < 30, 1.0, sky)
     noise = np.random.RandomState(4)
     down = np.clip((y - line) / (height - line), 0, 1)
-    ripple = sum(np.sin(np.clip(y - line + 1, 0, None) ** .72 * 5.2 * f + np.sin(x / (26. / f) + noise.rand() * 6) * 1.6 + x * .013 * f) for f in (1, 1.7, 2.6)) / 3
-    sea = np.array([.62, .78, .84]) * (1 - down[..., None]) + np.array([.16, .42, .58]) * down[..., None]
-    sea = sea + ripple[..., None] * .09
-    glint = np.exp(-((x - 300) / (46. + 150 * down)) ** 2) * np.clip(ripple * 2.4, 0, 1)
-    sea = sea + glint[..., None] * np.array([1, .92, .70]) * .8
+    ripple = sum(np.sin(np.clip(y - line + 1, 0, None) ** .72 * 3.4 * f + np.sin(x / (52. / f) + noise.rand() * 6) * 1.6 + x * .006 * f) for f in (1, 1.7, 2.6)) / 3
+    sea = np.array([.66, .82, .86]) * (1 - down[..., None]) ** 2 + np.array([.12, .40, .58]) * (1 - (1 - down[..., None]) ** 2)
+    sea = sea + ripple[..., None] * .08
+    glint = np.exp(-((x - sun[0]) / (70. + 150 * down)) ** 2) * np.clip(ripple * 2.4 + .25, 0, 1)
+    sea = sea + glint[..., None] * np.array([1, .90, .64]) * .9
     picture = np.where((y < line)[..., None], sky, sea)
-    for k in range(14):          # long thin clouds
-        cx, cy, w, h = noise.rand() * width, 40 + noise.rand() * 200, 90 + noise.rand() * 160, 5 + noise.rand() * 9
-        cloud = np.exp(-(((x - cx) / w) ** 2 + ((y - cy) / h) ** 2))[..., None] * (y < line - 8)[..., None]
-        picture = picture * (1 - .5 * cloud) + np.array([1, .97, .92]) * .5 * cloud
-    Image.fromarray((np.clip(picture, 0, 1) * 255).astype('uint8')).filter(ImageFilter.GaussianBlur(.7)).save(f'{OUT}/galley_sea.png')
+    for k in range(22):          # long thin clouds
+        cx, cy, w, h = 800 + noise.rand() * 900, 330 + noise.rand() * 200, 60 + noise.rand() * 130, 5 + noise.rand() * 9
+        cloud = np.exp(-(((x - cx) / w) ** 2 + ((y - cy) / h) ** 2))[..., None] * (y < line - 12)[..., None]
+        picture = picture * (1 - .6 * cloud) + np.array([1, .96, .90]) * .6 * cloud
+    image = Image.fromarray((np.clip(picture, 0, 1) * 255).astype('uint8')).filter(ImageFilter.GaussianBlur(1.2))
+    fine = 3
+    land = Image.new('RGBA', (500 * fine, 300 * fine))
+    draw = ImageDraw.Draw(land)
+    at = lambda *points: [(px * fine, py * fine) for px, py in points]
+    draw.polygon(at((60, 262), (120, 240), (170, 205), (215, 190), (270, 186), (330, 200), (500, 214), (500, 262)), fill=(96, 124, 110))
+    draw.polygon(at((60, 262), (140, 236), (190, 214), (230, 224), (260, 212), (300, 230), (360, 222), (420, 244), (500, 236), (500, 262)), fill=(134, 132, 118))
+    draw.polygon(at((226, 192), (234, 70), (262, 70), (270, 190)), fill=(248, 244, 234))
+    for high, deep in ((166, 138), (112, 88)):
+        draw.polygon(at((226 + (192 - high) * .066, high), (226 + (192 - deep) * .066, deep), (270 - (192 - deep) * .066, deep), (270 - (192 - high) * .066, high)), fill=(198, 58, 46))
+    draw.rectangle(at((228, 64), (268, 71)), fill=(70, 70, 78))
+    draw.rectangle(at((236, 42), (260, 64)), fill=(60, 70, 84))
+    draw.polygon(at((230, 43), (248, 24), (266, 43)), fill=(170, 48, 40))
+    draw.rectangle(at((284, 168), (330, 198)), fill=(242, 236, 222))
+    draw.polygon(at((278, 170), (307, 148), (336, 170)), fill=(176, 84, 62))
+    land = land.resize((350, 210), Image.LANCZOS).filter(ImageFilter.GaussianBlur(.8))
+    land.putalpha(land.getchannel('A').point(lambda v: int(v * .92)))
+    image.paste(land, (1345, line - 183), land)
+    draw = ImageDraw.Draw(image)
+    for gx, gy, r in ((1206, 470, 15), (1180, 500, 10), (1450, 400, 13)):
+        draw.arc([gx - 2 * r, gy - r // 2, gx, gy + r], 190, 330, fill=(92, 104, 120), width=3)
+        draw.arc([gx, gy - r // 2, gx + 2 * r, gy + r], 210, 350, fill=(92, 104, 120), width=3)
+    image.save(f'{OUT}/galley_sea.png')
 
 
 def papers():
