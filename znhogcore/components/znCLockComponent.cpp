@@ -110,6 +110,14 @@ bool znCLockComponent::allKeysUsedGet() const
     return std::all_of(mKeys.begin(), mKeys.end(), [](const Key& pKey) { return pKey.mUsed; });
 }
 
+std::vector<std::string> znCLockComponent::keyNamesGet() const
+{
+    std::vector<std::string> names;
+    for (const Key& key : mKeys)
+        names.push_back(key.mKey);
+    return names;
+}
+
 void znCLockComponent::forceComplete()
 {
     if (allKeysUsedGet())

@@ -32,6 +32,8 @@ public:
     bool keyTry(znCEntity* pKeyEntity, znCSpriteComponent* pDragSprite);
     // The key of pKeyEntity is one of this lock's and is still unused.
     bool keyNeeded(const znCEntity* pKeyEntity);
+    std::vector<std::string> keyNamesGet() const; // of all keys, used or not
+    const std::string& taskNameGet() const { return mTaskName; }
     // Opens the lock without its keys; nothing happens if all are used already.
     void forceComplete();
 
