@@ -7,8 +7,10 @@
 #include "zncore/src/znCVariableTable.h"
 #include "zncore/znNCoreUtils.h"
 
+#include <algorithm>
 #include <fstream>
 #include <sstream>
+#include <utility>
 
 namespace
 {
@@ -70,6 +72,7 @@ void znCAuthorGame::open(const std::string& pScreen)
 {
     close();
     savesForget();
+    mLogRead = 0;
     mPlatform.configSet("commandline", "argv[1]", pScreen);
     if (pScreen.empty())
         mPlatform.configRemove("commandline", "argv[1]");
@@ -104,7 +107,9 @@ std::vector<std::string> znCAuthorGame::complaintsTake()
 {
     std::vector<std::string> complaints;
     bool taken = false; // the line before, whose message may go on
-    for (const std::string& line : znNText::linesGet(mPlatform.logTake()))
+    const std::string log = mPlatform.logGet();
+    const std::string news = log.substr(std::min(std::exchange(mLogRead, log.size()), log.size()));
+    for (const std::string& line : znNText::linesGet(news))
     {
         const bool begins = line.starts_with("ERROR(") || line.starts_with("LOG(");
         const auto message = begins ? line.find(") ") : std::string::npos;

@@ -61,6 +61,7 @@ private:
     void savesForget();
 
     znCTestSound mSound;
+    std::size_t mLogRead = 0; // so much of the log of this start has been taken; each start writes it anew
     std::map<std::string, std::string> mFiles;
     std::map<const znCVariableTable*, std::set<std::string>> mKeysOfTable;
     std::set<std::string> mKeysAsked;

@@ -249,7 +249,7 @@ void znCCheck::screenTake(const std::vector<std::string>& pFiles)
     std::vector<std::string> files = pFiles;
     files.push_back(SETTINGS);
     for (const auto& [file, content] : mGame.filesGet())
-        if (file.starts_with("gui/") && file.ends_with(".txt"))
+        if ((file.starts_with("gui/") || file.starts_with(SCENES)) && file.ends_with(".txt"))
             files.push_back(file);
     valuesCheck(files);
 }

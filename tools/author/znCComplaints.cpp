@@ -11,8 +11,15 @@ namespace
 {
 constexpr char ELEMENT_MARK[] = "The faults above are those of";
 
-// Of a find that no list has asked for, as when its effects are tried.
-constexpr char OUT_OF_TURN[] = "Failed to find an entry for";
+// Of a find that no list has asked for, as when its effects are tried; and what the check of the lists says better.
+constexpr const char* LEFT_OUT[] = {"Failed to find an entry for", "Not enough entities in scene to fill"};
+constexpr char MISSING_STRING[] = "Missing string : ";
+
+bool leftOut(const std::string& pMessage)
+{
+    return std::any_of(std::begin(LEFT_OUT), std::end(LEFT_OUT),
+                       [&pMessage](const char* pStart) { return pMessage.starts_with(pStart); });
+}
 
 // What to do about a message that says only what is wrong.
 struct Advice
@@ -24,6 +31,7 @@ struct Advice
 constexpr Advice ADVICE[] = {
     {"could not be read", "save it anew as PNG or JPEG"},
     {"multiple of 2", "add a row or a column of transparent pixels"},
+    {"does not fit its box", "make the box larger, or the text shorter"},
     {"Missing string", "add that key to strings.xml, or correct it here"},
     {"There is no close-up", "correct the number, or add the close-up's background"},
     {"there is no close-up", "correct the number, or add the close-up's background"},
@@ -91,14 +99,14 @@ std::string znCComplaints::missingTextGet(const std::string& pFile)
 void znCComplaints::take(const std::vector<std::string>& pFiles)
 {
     for (const std::string& message : mGame.complaintsTake())
-        if (!message.starts_with(OUT_OF_TURN) && !placedAdd(message))
+        if (!leftOut(message) && !placedAdd(message, pFiles))
             mWaiting.push_back(message);
     for (const std::string& message : std::exchange(mWaiting, {}))
         unplacedAdd(message, pFiles);
 }
 
 // "FILE line N: what", "Animation FILE line N: what", "File FILE, line N: what".
-bool znCComplaints::placedAdd(const std::string& pMessage)
+bool znCComplaints::placedAdd(const std::string& pMessage, const std::vector<std::string>& pFiles)
 {
     static const std::regex FORM("^(?:[A-Z][a-z]+ )?(?:page )?([^ ,]+\\.[a-z]+),? line (\\d+):? (.*)$");
     std::smatch match;
@@ -112,17 +120,29 @@ bool znCComplaints::placedAdd(const std::string& pMessage)
         mFaults.add(file, line, missing.empty() ? adviceAdded(text) : missingTextGet(missing));
     else
         for (const std::string& message : std::exchange(mWaiting, {}))
-        {
-            const std::string lost = missingFileGet(message, mGame);
-            // The setting's own line, if it stands in that file.
-            const std::vector<std::string> names = lost.empty() ? namesGet(message) : std::vector{lost};
-            s32 at = 0;
-            for (std::size_t i = 0; i < names.size() && at == 0; ++i)
-                if (names[i].find_first_of("./_") != std::string::npos)
-                    at = znNText::lineFind(mGame.textGet(file), names[i], true, line);
-            mFaults.add(file, at != 0 ? at : line, lost.empty() ? adviceAdded(message) : missingTextGet(lost));
-        }
+            elementFaultAdd(message, file, line, pFiles);
     return true;
+}
+
+// A message of an element that begins in that line, or of the scene that was read before its panel.
+void znCComplaints::elementFaultAdd(const std::string& pMessage, const std::string& pFile, s32 pLine,
+                                    const std::vector<std::string>& pFiles)
+{
+    const std::string missing = missingFileGet(pMessage, mGame);
+    std::vector<std::string> names = missing.empty() ? namesGet(pMessage) : std::vector{missing};
+    if (pMessage.starts_with(MISSING_STRING))
+        names = {pMessage.substr(sizeof(MISSING_STRING) - 1)};
+    std::vector<std::string> scene = pFiles;
+    std::erase_if(scene, [](const std::string& pName) { return !pName.starts_with("scenes/"); });
+    s32 line = 0;
+    for (const std::string& name : names)
+    {
+        if (name.find_first_of("./_-") != std::string::npos && !scene.empty() && placeGet(name, scene).mLine != 0)
+            return unplacedAdd(pMessage, scene);
+        if (line == 0 && name.find_first_not_of("0123456789(),") != std::string::npos)
+            line = znNText::lineFind(mGame.textGet(pFile), name, true, pLine);
+    }
+    mFaults.add(pFile, line != 0 ? line : pLine, missing.empty() ? adviceAdded(pMessage) : missingTextGet(missing));
 }
 
 void znCComplaints::unplacedAdd(const std::string& pMessage, std::vector<std::string> pFiles)
@@ -145,7 +165,9 @@ void znCComplaints::unplacedAdd(const std::string& pMessage, std::vector<std::st
 
 znSFault znCComplaints::placeGet(const std::string& pName, const std::vector<std::string>& pFiles) const
 {
-    for (const std::string& name : {pName, znNText::baseNameGet(pName)})
+    // As it is, as a picture of the scene, as a thing without its extension, as the particles of an entry.
+    for (const std::string& name :
+         {pName, znNText::baseNameGet(pName), pName + ".png", "PAR-" + znNText::stemGet(pName)})
         for (const std::string& file : pFiles)
             if (const s32 line = znNText::lineFind(mGame.textGet(file), name, true))
                 return {file, line, ""};

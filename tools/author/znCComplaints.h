@@ -20,7 +20,9 @@ public:
     static std::string missingTextGet(const std::string& pFile);
 
 private:
-    bool placedAdd(const std::string& pMessage);
+    bool placedAdd(const std::string& pMessage, const std::vector<std::string>& pFiles);
+    void elementFaultAdd(const std::string& pMessage, const std::string& pFile, s32 pLine,
+                         const std::vector<std::string>& pFiles);
     void unplacedAdd(const std::string& pMessage, std::vector<std::string> pFiles);
 
     znCAuthorGame& mGame;
