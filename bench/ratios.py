@@ -20,14 +20,14 @@ def limits_read(path):
 
 
 def times_read(path):
-    """Processor time in nanoseconds of each benchmark by name; of repetitions the median."""
+    """Processor time in nanoseconds of each benchmark by name; of repetitions the best."""
     unit = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
     times = {}
     for run in json.loads(path.read_text())["benchmarks"]:
-        if run.get("run_type") == "aggregate" and run.get("aggregate_name") != "median":
+        if run.get("run_type") == "aggregate" and run.get("aggregate_name") != "best":
             continue
         if "cpu_time" in run:
-            name = run.get("run_name", run["name"]) if run.get("aggregate_name") == "median" else run["name"]
+            name = run.get("run_name", run["name"]) if run.get("aggregate_name") == "best" else run["name"]
             clock = "real_time" if "/manual_time" in name else "cpu_time"
             times[name] = run[clock] * unit[run["time_unit"]]
             if "peak_mb" in run:

@@ -9,6 +9,17 @@ constexpr s32 QUADS_MAX = 65536 / 4; // as many as 16-bit indices reach
 constexpr u32 NO_BLEND_YET = ~0u;
 constexpr float NO_UV[2] = {0.0f, 0.0f};
 
+template <class Type>
+const Type* behind(const Type* pStream, size_t pBytes)
+{
+    return reinterpret_cast<const Type*>(reinterpret_cast<const u8*>(pStream) + pBytes);
+}
+
+size_t quadVerticesOf(const s3eDrawRun& pRun)
+{
+    return static_cast<size_t>(pRun.mVertexCount / 4) * 4;
+}
+
 enum Attribute : GLuint
 {
     POSITION,
@@ -112,6 +123,7 @@ void znCQuadDrawer::buffersBuild()
         mGl.EnableVertexAttribArray(attribute);
     mGl.ActiveTexture(GL_TEXTURE0);
     mBlend = NO_BLEND_YET;
+    rebase(0);
 }
 
 void znCQuadDrawer::surfaceSizeSet(s32 pWidth, s32 pHeight)
@@ -127,31 +139,68 @@ void znCQuadDrawer::runAdd(const s3eDrawRun& pRun)
         mRuns.push_back(pRun);
 }
 
+// Whether the streams of all runs are already what is uploaded.
+bool znCQuadDrawer::streamsInOneArray() const
+{
+    const float* next = mRuns.front().mPositions;
+    for (const s3eDrawRun& run : mRuns)
+    {
+        if (run.mStride != sizeof(Vertex) || run.mPositions != next || run.mUvs != next + offsetof(Vertex, mU) / 4 ||
+            reinterpret_cast<const float*>(run.mColours) != next + offsetof(Vertex, mColour) / 4)
+            return false;
+        next = behind(next, quadVerticesOf(run) * sizeof(Vertex));
+    }
+    return true;
+}
+
+void znCQuadDrawer::streamsUpload()
+{
+    size_t count = 0;
+    bool unchanged = true;
+    for (const s3eDrawRun& run : mRuns)
+    {
+        count += quadVerticesOf(run);
+        unchanged = unchanged && run.mUnchanged != 0;
+    }
+    const float* source = mRuns.front().mPositions;
+    if (unchanged && source == mUploadedFrom && count == mUploadedCount)
+        return;
+    if (streamsInOneArray())
+        return verticesUpload(reinterpret_cast<const Vertex*>(source), count, source);
+    mVertexCount = 0;
+    for (const s3eDrawRun& run : mRuns)
+        verticesAppend(run);
+    verticesUpload(mVertices.data(), count, source);
+}
+
 void znCQuadDrawer::verticesAppend(const s3eDrawRun& pRun)
 {
-    const size_t count = static_cast<size_t>(pRun.mVertexCount / 4) * 4;
+    const size_t count = quadVerticesOf(pRun);
+    const size_t stride = static_cast<size_t>(pRun.mStride);
+    const float* position = pRun.mPositions;
+    const size_t positionStep = stride == 0 ? sizeof(float[2]) : stride;
     const float* uv = pRun.mUvs == nullptr ? NO_UV : pRun.mUvs;
-    const size_t uvStep = pRun.mUvs == nullptr ? 0 : 2;
+    const size_t uvStep = pRun.mUvs == nullptr ? 0 : positionStep;
     const u32* colour = pRun.mColours == nullptr ? &pRun.mColour : pRun.mColours;
-    const size_t colourStep = pRun.mColours == nullptr ? 0 : 1;
+    const size_t colourStep = pRun.mColours == nullptr ? 0 : stride == 0 ? sizeof(u32) : stride;
     if (mVertices.size() < mVertexCount + count)
         mVertices.resize(mVertexCount + count);
     Vertex* vertex = mVertices.data() + mVertexCount;
-    for (const float* position = pRun.mPositions; position != pRun.mPositions + 2 * count; position += 2)
+    for (const Vertex* end = vertex + count; vertex != end; ++vertex)
     {
-        *vertex++ = {position[0], position[1], uv[0], uv[1], *colour};
-        uv += uvStep;
-        colour += colourStep;
+        *vertex = {position[0], position[1], uv[0], uv[1], *colour};
+        position = behind(position, positionStep);
+        uv = behind(uv, uvStep);
+        colour = behind(colour, colourStep);
     }
     mVertexCount += count;
 }
 
-void znCQuadDrawer::verticesUpload()
+void znCQuadDrawer::verticesUpload(const Vertex* pVertices, size_t pCount, const void* pSource)
 {
-    mGl.BufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(mVertexCount * sizeof(Vertex)), mVertices.data(),
-                   GL_STREAM_DRAW);
-    mVertexCount = 0;
-    rebase(0);
+    mGl.BufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(pCount * sizeof(Vertex)), pVertices, GL_STREAM_DRAW);
+    mUploadedFrom = pSource;
+    mUploadedCount = pCount;
 }
 
 void znCQuadDrawer::rebase(s32 pQuad)
@@ -211,9 +260,9 @@ void znCQuadDrawer::flush()
 {
     if (mRuns.empty())
         return;
-    for (const s3eDrawRun& run : mRuns)
-        verticesAppend(run);
-    verticesUpload();
+    streamsUpload();
+    if (mBaseQuad != 0)
+        rebase(0);
     mTexture = 0; // the texture store may have bound another since
     s32 quad = 0;
     for (const s3eDrawRun& run : mRuns)
@@ -232,8 +281,11 @@ void znCQuadDrawer::pictureDraw(GLuint pTexture)
     const auto bottom = static_cast<float>(mHeight);
     const float corners[] = {0, 0, 0, bottom, right, bottom, right, 0};
     const float uvs[] = {0, 1, 0, 0, 1, 0, 1, 1};
+    mVertexCount = 0;
     verticesAppend({0, S3E_DRAW_BLEND_NONE, 0xffffffff, 4, corners, uvs, nullptr});
-    verticesUpload();
+    verticesUpload(mVertices.data(), mVertexCount, nullptr);
+    if (mBaseQuad != 0)
+        rebase(0);
     blendSet(S3E_DRAW_BLEND_NONE);
     mTexture = 0;
     textureSet(pTexture);

@@ -5,8 +5,9 @@
 
 #include <vector>
 
-// Draws runs of quads into the framebuffer that is bound: one upload of all vertices at each flush, one draw call a run
-// (a run of more quads than 16-bit indices reach takes several), and no change of state that isn't needed.
+// Draws runs of quads into the framebuffer that is bound: one upload of all vertices at each flush, none if they are
+// those of the flush before; one draw call a run (a run of more quads than 16-bit indices reach takes several), and no
+// change of state that isn't needed.
 class znCQuadDrawer
 {
 public:
@@ -27,17 +28,15 @@ public:
     void pictureDraw(GLuint pTexture);
 
 private:
-    struct Vertex
-    {
-        float mX, mY, mU, mV;
-        u32 mColour;
-    };
+    using Vertex = s3eDrawVertex;
 
     void programBuild();
     GLuint shaderCompile(GLenum pType, const char* pText);
     void buffersBuild();
+    void streamsUpload();
+    bool streamsInOneArray() const;
     void verticesAppend(const s3eDrawRun& pRun);
-    void verticesUpload();
+    void verticesUpload(const Vertex* pVertices, size_t pCount, const void* pSource);
     void rebase(s32 pQuad);
     void blendSet(u32 pBlend);
     void textureSet(GLuint pTexture);
@@ -47,8 +46,10 @@ private:
     const znCTextureStore& mTextures;
     std::string mError;
     std::vector<s3eDrawRun> mRuns;
-    std::vector<Vertex> mVertices; // only grows, so that no frame clears what it writes next
-    size_t mVertexCount = 0;       // of those the ones to upload
+    std::vector<Vertex> mVertices;       // of runs that don't lie in one array; only grows, so that no frame clears it
+    size_t mVertexCount = 0;             // of those the ones to upload
+    const void* mUploadedFrom = nullptr; // the first stream of what the vertex buffer holds; null: of none to come
+    size_t mUploadedCount = 0;
     GLuint mProgram = 0;
     GLint mScale = 0; // the uniform's place
     GLuint mVertexBuffer = 0;

@@ -60,9 +60,28 @@ void znCGraphicsText::prepare(const znCGraphicsFont& pFont, const std::string& p
     mTooHigh = tooHigh;
     if (tooHigh)
         fit(pFont, width, height, pAlignH, pAlignV);
+    else if (layer->mTextScale > 1.0f)
+        enlarge(pFont, width, height, pAlignH, pAlignV);
     mWidth = static_cast<s32>(std::ceil(layer->mLayout.widthGet()));
     mLineCount = layer->mLayout.lineCountGet();
     place();
+}
+
+// To the largest size up to the text scale's at which the text, which fits as it is, fits too.
+void znCGraphicsText::enlarge(const znCGraphicsFont& pFont, s32 pBoxWidth, s32 pBoxHeight, s32 pAlignH, s32 pAlignV)
+{
+    znCFontLayer& layer = *znCFontLayer::instanceGet();
+    const bool oneLine = layer.mLayout.lineCountGet() == 1;
+    const float height = std::max(static_cast<float>(pBoxHeight), layer.mLayout.heightGet());
+    s32 size = static_cast<s32>(std::lround(static_cast<float>(pFont.sizeGet()) * layer.mTextScale));
+    for (; size > pFont.sizeGet(); --size)
+    {
+        layer.mLayout.layOut(&layer, layer.sizedGet(pFont.faceGet(), size), pBoxWidth, pBoxHeight, pAlignH, pAlignV,
+                             false, &mLaid);
+        if (layer.mLayout.heightGet() <= height && (!oneLine || layer.mLayout.lineCountGet() == 1))
+            return;
+    }
+    layer.mLayout.layOut(&layer, pFont, pBoxWidth, pBoxHeight, pAlignH, pAlignV, false, &mLaid);
 }
 
 // Halves the range of sizes until the largest one that fits is found.

@@ -47,6 +47,7 @@ public:
     // prepare. A box without width or height is 1 wide or high. Memory is kept for the next time.
     // Several lines that are too high for the box are laid out anew with smaller letters; if they are too high even
     // with the smallest, the last lines are left out. One log line says so, until a text fits again.
+    // With znNFonts::textScaleSet the letters are larger, as far as the box has room: a single line stays one.
     void prepare(const znCGraphicsFont& pFont, const std::string& pText, s32 pBoxWidth, s32 pBoxHeight, s32 pAlignH,
                  s32 pAlignV);
 
@@ -65,6 +66,7 @@ public:
 private:
     void place();
     void uvsWrite() const;
+    void enlarge(const znCGraphicsFont& pFont, s32 pBoxWidth, s32 pBoxHeight, s32 pAlignH, s32 pAlignV);
     void fit(const znCGraphicsFont& pFont, s32 pBoxWidth, s32 pBoxHeight, s32 pAlignH, s32 pAlignV);
 
     std::vector<znCLaidGlyph> mLaid;

@@ -12,6 +12,7 @@ constexpr float sScaleMin = 1.0f / 16.0f;
 constexpr float sScaleMax = 16.0f;
 
 std::unique_ptr<znCFontLayer> sLayer;
+float sTextScale = 1.0f; // outlives the layer that it is for: a player's size is known before there are fonts
 } // namespace
 
 znCFontLayer::znCFontLayer()
@@ -74,11 +75,13 @@ const znCGraphicsFont& znCFontLayer::sizedGet(znCFontFace* pFace, s32 pSize)
 void znNFonts::initialise()
 {
     sLayer = std::make_unique<znCFontLayer>();
+    sLayer->mTextScale = sTextScale;
 }
 
 void znNFonts::terminate()
 {
     sLayer.reset();
+    sTextScale = 1.0f;
 }
 
 void znNFonts::fallbackAdd(const znCResourceName& pName)
@@ -102,6 +105,23 @@ void znNFonts::frameBegin(float pDisplayScale)
 float znNFonts::displayScaleGet()
 {
     return sLayer != nullptr ? sLayer->mDisplayScale : 1.0f;
+}
+
+void znNFonts::textScaleSet(float pScale)
+{
+    sTextScale = pScale > 1.0f ? std::min(pScale, TEXT_SCALE_MAX) : 1.0f;
+    if (sLayer != nullptr)
+        sLayer->mTextScale = sTextScale;
+}
+
+float znNFonts::textScaleGet()
+{
+    return sTextScale;
+}
+
+u32 znNFonts::glyphUvGenerationGet()
+{
+    return sLayer != nullptr ? sLayer->mStore.uvGenerationGet() : 0;
 }
 
 const znCGraphicsTexture* znNFonts::glyphTextureGet()

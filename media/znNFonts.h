@@ -27,9 +27,19 @@ void fallbackAdd(const znCResourceName& pName);
 void frameBegin(float pDisplayScale);
 float displayScaleGet();
 
+// How much larger than their fonts' sizes letters are laid out where there is room for that, 1 (at first) to
+// TEXT_SCALE_MAX; a number outside is limited. A text shows it at its next layout.
+// May be set before initialise, as a player's settings are; terminate forgets it.
+constexpr float TEXT_SCALE_MAX = 2.0f;
+void textScaleSet(float pScale);
+float textScaleGet();
+
 // White glyphs with their coverage as alpha, in a texture that grows: ask for it at each draw. Null before the first
 // glyph.
 const znCGraphicsTexture* glyphTextureGet();
+
+// Changes whenever texture coordinates of glyphs do.
+u32 glyphUvGenerationGet();
 
 // How many glyphs have been drawn from their outlines since initialise(): each once a size and scale.
 s32 glyphsRasterisedGet();

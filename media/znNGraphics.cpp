@@ -9,6 +9,7 @@ namespace
 s3eDraw sTable = {};
 bool sAvailable = false;
 znCFrameMemory sFrameMemory;
+u32 sFrameMemoryNumber = 0;
 u32 sFrameNumber = 0;
 s3eDrawRun sRun = {}; // the state that the next quadsDraw uses
 
@@ -18,6 +19,21 @@ void sizeGet(void (*pOperation)(s32*, s32*), s32* pWidth, s32* pHeight)
     *pHeight = 0;
     if (sAvailable)
         pOperation(pWidth, pHeight);
+}
+
+void streamsClear()
+{
+    sRun.mStride = 0;
+    sRun.mPositions = nullptr;
+    sRun.mUvs = nullptr;
+    sRun.mColours = nullptr;
+}
+
+// Before a stream of its own is set: it doesn't mix with those that lie side by side.
+void packedBegin()
+{
+    if (sRun.mStride != 0)
+        streamsClear();
 }
 } // namespace
 
@@ -39,6 +55,7 @@ void znNGraphics::terminate()
     sTable = {};
     sRun = {};
     sFrameMemory.free();
+    ++sFrameMemoryNumber;
 }
 
 bool znNGraphics::isAvailable()
@@ -66,6 +83,17 @@ s32 znNGraphics::textureSizeLimitGet()
     return sAvailable ? sTable.textureSizeLimitGet() : znCImage::sSideMax;
 }
 
+void znNGraphics::frameMemoryReset()
+{
+    sFrameMemory.frameReset();
+    ++sFrameMemoryNumber;
+}
+
+u32 znNGraphics::frameMemoryNumberGet()
+{
+    return sFrameMemoryNumber;
+}
+
 void* znNGraphics::frameMemoryTake(std::size_t pBytes)
 {
     return sFrameMemory.take(pBytes);
@@ -91,17 +119,36 @@ void znNGraphics::materialSet(const znCGraphicsMaterial& pMaterial)
 
 void znNGraphics::positionsSet(const znPointF* pPositions)
 {
+    packedBegin();
     sRun.mPositions = reinterpret_cast<const float*>(pPositions);
 }
 
 void znNGraphics::uvsSet(const znPointF* pUvs)
 {
+    packedBegin();
     sRun.mUvs = reinterpret_cast<const float*>(pUvs);
 }
 
 void znNGraphics::coloursSet(const u32* pColours)
 {
+    packedBegin();
     sRun.mColours = pColours;
+}
+
+void znNGraphics::verticesSet(const znCGraphicsVertex* pVertices)
+{
+    static_assert(sizeof(znCGraphicsVertex) == sizeof(s3eDrawVertex) &&
+                  offsetof(znCGraphicsVertex, mUv) == offsetof(s3eDrawVertex, mU) &&
+                  offsetof(znCGraphicsVertex, mColour) == offsetof(s3eDrawVertex, mColour));
+    sRun.mStride = sizeof(znCGraphicsVertex);
+    sRun.mPositions = &pVertices->mPosition.mX;
+    sRun.mUvs = &pVertices->mUv.mX;
+    sRun.mColours = &pVertices->mColour;
+}
+
+void znNGraphics::unchangedSet(bool pUnchanged)
+{
+    sRun.mUnchanged = pUnchanged ? 1 : 0;
 }
 
 void znNGraphics::quadsDraw(s32 pVertexCount)
@@ -110,11 +157,8 @@ void znNGraphics::quadsDraw(s32 pVertexCount)
         return;
     s3eDrawRun run = sRun;
     run.mVertexCount = pVertexCount & ~3;
-    // The table asks for the one or for both of texture and UVs.
     if (run.mUvs == nullptr)
-        run.mTexture = 0;
-    if (run.mTexture == 0)
-        run.mUvs = nullptr;
+        run.mTexture = 0; // the table asks for UVs with a texture
     sTable.runAdd(&run);
 }
 
@@ -122,11 +166,9 @@ void znNGraphics::flush()
 {
     if (sAvailable)
         sTable.flush();
-    sFrameMemory.frameReset();
     ++sFrameNumber;
-    sRun.mPositions = nullptr;
-    sRun.mUvs = nullptr;
-    sRun.mColours = nullptr;
+    streamsClear();
+    sRun.mUnchanged = 0;
 }
 
 u32 znNGraphics::frameNumberGet()

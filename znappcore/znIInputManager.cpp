@@ -56,7 +56,8 @@ void znIInputManager::update()
     platformUpdate();
     for (const auto& point : mInputPoints)
         inputPointUpdate(*point);
-    typedCharsSend();
+    codesSend(mTypedChars, TYPED_CHAR);
+    codesSend(mNavigationKeys, NAVIGATION_KEY);
 }
 
 // The point is committed before its message goes out: a listener may wait for a text from the person, and an event that
@@ -73,13 +74,13 @@ void znIInputManager::inputPointUpdate(znCInputPoint& pPoint)
         messageSend(POINTER_MOVE, &message);
 }
 
-// By place: a listener may wait for a text from the person, and characters may come meanwhile.
-void znIInputManager::typedCharsSend()
+// By place: a listener may wait for a text from the person, and more may come meanwhile.
+void znIInputManager::codesSend(std::vector<s32>& pCodes, const znCUniqueId& pType)
 {
-    for (std::size_t i = 0; i < mTypedChars.size(); ++i)
+    for (std::size_t i = 0; i < pCodes.size(); ++i)
     {
-        s32 code = mTypedChars[i];
-        messageSend(TYPED_CHAR, &code);
+        s32 code = pCodes[i];
+        messageSend(pType, &code);
     }
-    mTypedChars.clear();
+    pCodes.clear();
 }

@@ -28,6 +28,17 @@ public:
     static constexpr znCUniqueId POINTER_DOWN_STEAL{"pointerDownSteal"};
     // Payload: s32 character code.
     static constexpr znCUniqueId TYPED_CHAR{"typedChar"};
+    // Payload: s32, one of the keys below. A key that moves through a screen's controls went down.
+    static constexpr znCUniqueId NAVIGATION_KEY{"navigationKey"};
+    static constexpr s32 KEY_ESCAPE = 0;
+    static constexpr s32 KEY_ENTER = 1;
+    static constexpr s32 KEY_SPACE = 2;
+    static constexpr s32 KEY_TAB = 3;
+    static constexpr s32 KEY_TAB_BACK = 4; // Tab with Shift
+    static constexpr s32 KEY_LEFT = 5;
+    static constexpr s32 KEY_RIGHT = 6;
+    static constexpr s32 KEY_UP_ARROW = 7;
+    static constexpr s32 KEY_DOWN_ARROW = 8;
     // Payload: znCEmptyMessageData. The mouse has come over the window or left it; sent by the hardware.
     static constexpr znCUniqueId ENTER_CLIENT{"enterClient"};
     static constexpr znCUniqueId LEAVE_CLIENT{"leaveClient"};
@@ -70,11 +81,12 @@ protected:
 
     std::vector<std::unique_ptr<znCInputPoint>> mInputPoints; // by id
     std::vector<s32> mTypedChars;                             // character codes that wait for the next update
+    std::vector<s32> mNavigationKeys;                         // that wait for the next update
     s32 mMaxInputPoints = 0;
 
 private:
     void inputPointUpdate(znCInputPoint& pPoint);
-    void typedCharsSend();
+    void codesSend(std::vector<s32>& pCodes, const znCUniqueId& pType);
 };
 
 #endif

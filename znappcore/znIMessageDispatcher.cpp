@@ -5,14 +5,45 @@
 
 #include <algorithm>
 
+namespace
+{
+u64 typeBitGet(const znCUniqueId& pType)
+{
+    constexpr u32 SPREAD = 2654435761u; // ids of names that end alike differ in their low bits only
+    return u64{1} << (pType.idGet() * SPREAD >> 26);
+}
+} // namespace
+
 znIMessageDispatcher::~znIMessageDispatcher() = default;
+
+void znIMessageDispatcher::Listeners::insert(std::size_t pPlace, znIMessageListener* pListener)
+{
+    mPlaces.insert(mPlaces.begin() + static_cast<std::ptrdiff_t>(mFree + pPlace), pListener);
+}
+
+void znIMessageDispatcher::Listeners::erase(std::size_t pPlace)
+{
+    const auto first = mPlaces.begin() + static_cast<std::ptrdiff_t>(mFree);
+    const auto place = first + static_cast<std::ptrdiff_t>(pPlace);
+    if (pPlace >= sizeGet() / 2)
+    {
+        mPlaces.erase(place);
+        return;
+    }
+    std::move_backward(first, place, place + 1);
+    if (++mFree > mPlaces.size() / 2)
+    {
+        mPlaces.erase(mPlaces.begin(), mPlaces.begin() + static_cast<std::ptrdiff_t>(mFree));
+        mFree = 0;
+    }
+}
 
 bool znIMessageDispatcher::messageSend(const znCUniqueId& pType, void* pData)
 {
     const auto listeners = mListeners.find(pType);
     if (listeners == mListeners.end())
         return false;
-    Walk walk{&listeners->second, listeners->second.size(), false, mWalks};
+    Walk walk{&listeners->second, listeners->second.sizeGet(), false, mWalks};
     mWalks = &walk;
     const bool consumed = deliver(walk, pData, pType);
     mWalks = walk.mOuter;
@@ -22,14 +53,14 @@ bool znIMessageDispatcher::messageSend(const znCUniqueId& pType, void* pData)
 bool znIMessageDispatcher::listenerExists(const znCUniqueId& pType) const
 {
     const auto listeners = mListeners.find(pType);
-    return listeners != mListeners.end() && !listeners->second.empty();
+    return listeners != mListeners.end() && listeners->second.sizeGet() > 0;
 }
 
 // Goes by place, kept where walksShift() finds it, and looks at the list anew when a listener has changed it.
 bool znIMessageDispatcher::deliver(Walk& pWalk, void* pData, const znCUniqueId& pType)
 {
     bool priorityListenerDue = mPriorityListener != nullptr;
-    znIMessageListener* const* listeners = pWalk.mListeners->data();
+    znIMessageListener* const* listeners = pWalk.mListeners->begin();
     std::size_t remaining = pWalk.mRemaining;
     while (remaining > 0)
     {
@@ -47,7 +78,7 @@ bool znIMessageDispatcher::deliver(Walk& pWalk, void* pData, const znCUniqueId& 
         if (!pWalk.mChanged) [[likely]]
             continue;
         pWalk.mChanged = false;
-        listeners = pWalk.mListeners->data();
+        listeners = pWalk.mListeners->begin();
         remaining = pWalk.mRemaining;
     }
     return false;
@@ -69,13 +100,17 @@ void znIMessageDispatcher::walksShift(const Listeners& pListeners, std::size_t p
 void znIMessageDispatcher::listenerRegister(const znCUniqueId& pType, znIMessageListener* pListener)
 {
     Listeners& listeners = mListeners[pType];
-    ZN_ASSERT(std::find(listeners.begin(), listeners.end(), pListener) == listeners.end(),
+    const u64 bit = typeBitGet(pType);
+    ZN_ASSERT((pListener->mTypeBits & bit) == 0 ||
+                  std::find(listeners.begin(), listeners.end(), pListener) == listeners.end(),
               "Listener already registered.\n");
-    const auto place = std::upper_bound(listeners.begin(), listeners.end(), pListener,
-                                        [](const znIMessageListener* pNew, const znIMessageListener* pOther)
-                                        { return pNew->priorityGet() < pOther->priorityGet(); });
-    walksShift(listeners, static_cast<std::size_t>(place - listeners.begin()), true);
-    listeners.insert(place, pListener);
+    pListener->mTypeBits |= bit;
+    const auto* const place = std::upper_bound(listeners.begin(), listeners.end(), pListener,
+                                               [](const znIMessageListener* pNew, const znIMessageListener* pOther)
+                                               { return pNew->priorityGet() < pOther->priorityGet(); });
+    const auto index = static_cast<std::size_t>(place - listeners.begin());
+    walksShift(listeners, index, true);
+    listeners.insert(index, pListener);
 }
 
 void znIMessageDispatcher::listenerDeregister(const znCUniqueId& pType, znIMessageListener* pListener)
@@ -85,11 +120,12 @@ void znIMessageDispatcher::listenerDeregister(const znCUniqueId& pType, znIMessa
     const auto listeners = mListeners.find(pType);
     if (listeners != mListeners.end())
     {
-        const auto place = std::find(listeners->second.begin(), listeners->second.end(), pListener);
+        const auto* const place = std::find(listeners->second.begin(), listeners->second.end(), pListener);
         if (place != listeners->second.end())
         {
-            walksShift(listeners->second, static_cast<std::size_t>(place - listeners->second.begin()), false);
-            listeners->second.erase(place);
+            const auto index = static_cast<std::size_t>(place - listeners->second.begin());
+            walksShift(listeners->second, index, false);
+            listeners->second.erase(index);
             return;
         }
     }

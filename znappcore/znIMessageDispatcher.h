@@ -40,7 +40,20 @@ public:
     znIMessageListener* priorityListenerGet() const { return mPriorityListener; }
 
 private:
-    using Listeners = std::vector<znIMessageListener*>;
+    // An array that takes from either end alike: a scene's listeners go in the order in which they came.
+    class Listeners
+    {
+    public:
+        znIMessageListener* const* begin() const { return mPlaces.data() + mFree; }
+        znIMessageListener* const* end() const { return mPlaces.data() + mPlaces.size(); }
+        std::size_t sizeGet() const { return mPlaces.size() - mFree; }
+        void insert(std::size_t pPlace, znIMessageListener* pListener);
+        void erase(std::size_t pPlace);
+
+    private:
+        std::vector<znIMessageListener*> mPlaces;
+        std::size_t mFree = 0; // places at the front
+    };
 
     // A delivery in progress, kept on the stack of its messageSend().
     struct Walk

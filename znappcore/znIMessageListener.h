@@ -34,7 +34,12 @@ public:
     s32 priorityGet() const { return mPriority; }
 
 private:
+    friend class znIMessageDispatcher;
+
     const s32 mPriority;
+    // A bit for each type that it has ever registered for, some types sharing one: without the bit no dispatcher needs
+    // to look for it in its list.
+    u64 mTypeBits = 0;
 };
 
 #endif

@@ -1,5 +1,7 @@
 #include "znappcore/znINode.h"
 
+#include "znappcore/src/znCRenderList.h"
+#include "znappcore/src/znCSprite.h"
 #include "znappcore/znCUniqueId.h"
 #include "znappcore/znIMessageListener.h"
 #include "zncore/debug/znIDebug.h"
@@ -104,6 +106,7 @@ znINode::~znINode()
 // The children go from the first to the last, and none can reach this node any more.
 void znINode::childrenDelete()
 {
+    znNRenderChanges::structureMark();
     for (znINode* child : mChildren)
         child->mParent = nullptr;
     std::reverse(mChildren.begin(), mChildren.end());
@@ -140,10 +143,19 @@ void znINode::newNodesLeave()
 
 void znINode::initialiseFromVariableTableDo(const znCVariableTable&) {}
 void znINode::initialiseDo() {}
-void znINode::update(s32) {}
-void znINode::render() {}
+void znINode::update(s32)
+{
+    mUpdates = mUpdates && typeid(*this) != typeid(znINode);
+}
+void znINode::render()
+{
+    mRenders = mRenders && typeid(*this) != typeid(znINode);
+}
 void znINode::posChangeHandle() {}
-void znINode::matrixApply() {}
+void znINode::matrixApply()
+{
+    mAppliesMatrix = mAppliesMatrix && typeid(*this) != typeid(znINode);
+}
 void znINode::mySave(std::string&) {}
 void znINode::myLoad(std::string&) {}
 void znINode::myPostLoad() {}
@@ -173,6 +185,7 @@ void znINode::childAdd(znINode* pChild)
         return;
     mChildren.push_back(pChild);
     pChild->mParent = this;
+    znNRenderChanges::structureMark();
     pChild->matrixDirtyMark();
 }
 
@@ -192,6 +205,7 @@ void znINode::childRemove(znINode* pChild)
 
 void znINode::childErase(znINode* pChild)
 {
+    znNRenderChanges::structureMark();
     const auto place = std::find(mChildren.begin(), mChildren.end(), pChild);
     if (place != mChildren.end())
         mChildren.erase(place);
@@ -234,6 +248,7 @@ void znINode::siblingsReorder(bool pToFront)
 {
     std::vector<znINode*>& siblings = mParent->mChildren;
     const auto place = std::find(siblings.begin(), siblings.end(), this);
+    znNRenderChanges::structureMark();
     if (pToFront)
         std::rotate(place, place + 1, siblings.end());
     else
@@ -367,23 +382,16 @@ float znINode::scaleGet() const
     return mScaleX;
 }
 
-void znINode::rotationSet(float pRadians)
-{
-    mRotationTarget = pRadians;
-    if (mRotation == pRadians)
-        return;
-    mRotation = pRadians;
-    matrixDirtyMark();
-}
-
 void znINode::rotationTargetSet(float pRadians, float pSpeedPerSecond)
 {
     const float difference = pRadians - mRotation;
     mRotationTarget = pRadians;
+    mTurning = mRotationTarget != mRotation;
     mRotationSpeed = pSpeedPerSecond / 1000.0f;
     mRotationDirection = difference > 0.0f ? 1.0f : -1.0f;
     if (std::fabs(difference) > PI)
         mRotationDirection = -mRotationDirection;
+    busyMark();
 }
 
 float znINode::rotationRemainingGet() const
@@ -408,6 +416,7 @@ void znINode::rotationAdvance(s32 pDeltaMs)
         else if (mRotation >= TWO_PI)
             mRotation -= TWO_PI;
     }
+    mTurning = mRotation != mRotationTarget;
     matrixDirtyMark();
 }
 
@@ -425,19 +434,53 @@ bool znINode::worldToLocalGet(const znPoint& pWorld, znPoint& pLocal)
     return inverted;
 }
 
-void znINode::matrixDirtyMark()
+void znINode::busyMark()
 {
-    mMatrixDirty = true;
-    mDirtyBelow = true;
-    for (znINode* node = mParent; node != nullptr && !node->mDirtyBelow; node = node->mParent)
-        node->mDirtyBelow = true;
+    for (znINode* node = mParent; node != nullptr && !node->mBusyBelow; node = node->mParent)
+        node->mBusyBelow = true;
+}
+
+// Whether treeUpdate has to come here.
+bool znINode::busyGet() const
+{
+    return mUpdates | mBusyBelow | mDirtyBelow | mTurning; // one test in place of four
+}
+
+void znINode::stepsChangeMark()
+{
+    if (mUpdates)
+        busyMark();
+    znNRenderChanges::structureMark();
+}
+
+inline void znINode::matrixMake()
+{
+    mLocalMatrix.fromPosScaleRotation(mPos, mScaleX, mScaleY, mRotation);
+    mWorldMatrix = mParent == nullptr ? mLocalMatrix : mParent->mWorldMatrix * mLocalMatrix;
+    if (mSprite != nullptr)
+        mSprite->matrixApply(mWorldMatrix);
+    else if (mAppliesMatrix)
+        matrixApply();
+}
+
+// Whether all that treeUpdate would do is to rebuild the matrix of this one node, and nobody hears of it who might do
+// something else.
+bool znINode::moveOnlyGet() const
+{
+    return mMatrixDirty && !(mUpdates | mBusyBelow | mTurning) && mChildren.empty() &&
+           (mSprite != nullptr || !mAppliesMatrix);
+}
+
+void znINode::moveFinish()
+{
+    matrixMake();
+    mMatrixDirty = false;
+    mDirtyBelow = false;
 }
 
 void znINode::matrixRebuild()
 {
-    mLocalMatrix.fromPosScaleRotation(mPos, mScaleX, mScaleY, mRotation);
-    mWorldMatrix = mParent == nullptr ? mLocalMatrix : mParent->mWorldMatrix * mLocalMatrix;
-    matrixApply();
+    matrixMake();
     for (std::size_t i = 0; i < mChildren.size(); ++i)
         mChildren[i]->matrixRebuild();
 }
@@ -473,24 +516,83 @@ bool znINode::activeInTreeGet() const
 // The walks go by place, since what they call may add children.
 void znINode::treeUpdate(s32 pDeltaMs)
 {
-    if (mRotationTarget != mRotation)
+    if (mTurning)
         rotationAdvance(pDeltaMs);
-    update(pDeltaMs);
-    mInUpdate = true;
-    for (std::size_t i = 0; i < mChildren.size(); ++i)
-        mChildren[i]->treeUpdate(pDeltaMs);
-    mInUpdate = false;
+    if (mUpdates)
+        update(pDeltaMs);
+    if (mBusyBelow)
+        childrenUpdate(pDeltaMs);
     if (mDirtyBelow)
         matrixRefresh();
 }
 
+// What is marked while the children are walked stays marked: a node that was passed may have become busy.
+void znINode::childrenUpdate(s32 pDeltaMs)
+{
+    bool busy = false;
+    bool dirty = false;
+    mBusyBelow = false;
+    mDirtyBelow = mMatrixDirty;
+    mInUpdate = true;
+    for (std::size_t i = 0; i < mChildren.size(); ++i)
+    {
+        znINode& child = *mChildren[i];
+        if (!child.busyGet())
+            continue;
+        if (child.moveOnlyGet())
+            child.moveFinish();
+        else
+            child.treeUpdate(pDeltaMs);
+        busy = busy | child.busyGet();
+        dirty = dirty | child.mDirtyBelow;
+    }
+    mInUpdate = false;
+    mBusyBelow = mBusyBelow || busy;
+    mDirtyBelow = mDirtyBelow || dirty;
+}
+
 void znINode::treeRender()
+{
+    if (mRenderList == nullptr)
+        mRenderList = std::make_unique<znCRenderList>();
+    if (!mActive)
+        return;
+    znINode* stopped = nullptr;
+    if (mRenderList->isCurrent())
+        stopped = mRenderList->render();
+    else
+    {
+        mRenderList->clear(znNRenderChanges::structureGet());
+        subtreeRender(*mRenderList);
+    }
+    if (stopped != nullptr)
+        restRender(*stopped, *mRenderList);
+}
+
+void znINode::subtreeRender(znCRenderList& pList)
 {
     if (!mActive)
         return;
-    render();
+    if (mSprite != nullptr)
+        pList.spriteRender(*mSprite);
+    else if (mRenders)
+        pList.nodeRender(*this);
     for (std::size_t i = 0; i < mChildren.size(); ++i)
-        mChildren[i]->treeRender();
+        mChildren[i]->subtreeRender(pList);
+}
+
+// What a walk from this node down meets behind pLast. The list is out of date already and serves as a place only.
+void znINode::restRender(znINode& pLast, znCRenderList& pList)
+{
+    for (std::size_t i = 0; i < pLast.mChildren.size(); ++i)
+        pLast.mChildren[i]->subtreeRender(pList);
+    for (znINode* node = &pLast; node != this && node->mParent != nullptr; node = node->mParent)
+    {
+        const std::vector<znINode*>& siblings = node->mParent->mChildren;
+        const auto place = std::find(siblings.begin(), siblings.end(), node);
+        for (auto i = static_cast<std::size_t>(place - siblings.begin()) + 1; i < siblings.size(); ++i)
+            siblings[i]->subtreeRender(pList);
+    }
 }
 
 void znINode::treeInitialise()

@@ -11,14 +11,18 @@
 //
 // Positions are canvas units relative to the parent, angles radians, times milliseconds. Main thread only.
 
+#include "znappcore/znNRenderChanges.h"
 #include "zncore/znAffineMtx2d.h"
 #include "zncore/znPoint.h"
 #include "zncore/znTypes.h"
 
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
+class znCRenderList;
+class znCSprite;
 class znCVariableTable;
 
 class znINode
@@ -92,7 +96,12 @@ public:
 
     // --- state ---
     // An inactive node isn't painted, nor is anything below it; it goes on updating.
-    void activeSet(bool pActive) { mActive = pActive; }
+    void activeSet(bool pActive)
+    {
+        if (mActive != pActive)
+            znNRenderChanges::structureMark();
+        mActive = pActive;
+    }
     bool activeGet() const { return mActive; }
     bool activeInTreeGet() const; // this node and all above it are active
 
@@ -128,6 +137,8 @@ public:
 protected:
     // The next update rebuilds the matrices of this node and of all below it.
     void matrixDirtyMark();
+    // After a change of what the walks have to do at this node.
+    void stepsChangeMark();
     // Rebuilds the matrices of this node and of all below it at once.
     void matrixRebuild();
     // Deletes all children, for a class whose children must go while it is still whole.
@@ -141,27 +152,48 @@ protected:
     bool mInUpdate = false;       // the children are being walked by treeUpdate
     bool mActive = true;
     bool mMatrixDirty = false;
+    // False where update(), render() or matrixApply() would do nothing: the walks save the call. Changes go with
+    // stepsChangeMark().
+    bool mUpdates = true;
+    bool mRenders = true;
+    bool mAppliesMatrix = true;
+    // If all that render() and matrixApply() would do is to hand these on to one sprite: that sprite; not owned.
+    znCSprite* mSprite = nullptr;
 
 private:
     // This node or one below it is dirty; set in all nodes above a dirty one, so that still subtrees cost nothing.
     bool mDirtyBelow = false;
-    s32 mFlaggedIndex = -1; // place among the flagged nodes
-    s32 mNewNodesCount = 0; // pairs of the new nodes that this node stands in
+    // A node below this one is dirty, turns or updates; set in all nodes above such a one. Else treeUpdate stops here.
+    bool mBusyBelow = false;
+    bool mTurning = false; // mRotation may be on its way to mRotationTarget
 
 protected:
-    std::string mName;
-    znAffineMtx2d mLocalMatrix;
-    znAffineMtx2d mWorldMatrix;
+    // What a moving node looks at.
     znPoint mPos{0, 0};
     float mScaleX = 1.0f;
     float mScaleY = 1.0f;
+    znAffineMtx2d mLocalMatrix;
+    znAffineMtx2d mWorldMatrix;
     float mRotationDirection = 1.0f;
     float mRotationSpeed = 0.0f; // radians per millisecond
+    std::string mName;
 
 private:
+    std::unique_ptr<znCRenderList> mRenderList; // of the last treeRender(), in the node that it was called on
+    s32 mFlaggedIndex = -1;                     // place among the flagged nodes
+    s32 mNewNodesCount = 0;                     // pairs of the new nodes that this node stands in
+
     void childErase(znINode* pChild);
     void newNodesLeave();
     void matrixRefresh();
+    void matrixMake();
+    bool moveOnlyGet() const;
+    void moveFinish();
+    bool busyGet() const;
+    void busyMark();
+    void childrenUpdate(s32 pDeltaMs);
+    void subtreeRender(znCRenderList& pList);
+    void restRender(znINode& pLast, znCRenderList& pList);
     void rotationAdvance(s32 pDeltaMs);
     float rotationRemainingGet() const;
     void siblingsReorder(bool pToFront);
@@ -169,5 +201,27 @@ private:
     std::string sectionCut(std::string& pIn, std::size_t& pCursor) const;
     void treeLoadFrom(std::string& pIn, std::size_t& pCursor);
 };
+
+// In the header: whatever moves comes here each frame.
+inline void znINode::matrixDirtyMark()
+{
+    mMatrixDirty = true;
+    mDirtyBelow = true;
+    for (znINode* node = mParent; node != nullptr && !(node->mDirtyBelow && node->mBusyBelow); node = node->mParent)
+    {
+        node->mDirtyBelow = true;
+        node->mBusyBelow = true;
+    }
+}
+
+inline void znINode::rotationSet(float pRadians)
+{
+    mRotationTarget = pRadians;
+    mTurning = false;
+    if (mRotation == pRadians)
+        return;
+    mRotation = pRadians;
+    matrixDirtyMark();
+}
 
 #endif

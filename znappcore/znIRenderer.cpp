@@ -1,5 +1,6 @@
 #include "znappcore/znIRenderer.h"
 
+#include "media/znNFonts.h"
 #include "znappcore/animatingSprite/znCAnimationDataManager.h"
 #include "znappcore/impl/platform/znCRenderer.h"
 #include "znappcore/particles/znCParticleDataManager.h"
@@ -8,9 +9,11 @@
 #include "znappcore/src/znCRenderJobText.h"
 #include "znappcore/znISpriteRenderData.h"
 #include "znappcore/znITextRenderData.h"
+#include "znappcore/znNRenderChanges.h"
 #include "zncore/debug/znIDebug.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace
 {
@@ -70,6 +73,7 @@ void znIRenderer::initialise()
     mTexts = arrayMake<znITextRenderData*>(mMaxSprites);
     mFonts = arrayMake<znIFont*>(mMaxMaterialChanges);
     mFontTextCounts = arrayMake<s32>(mMaxMaterialChanges);
+    mItems = arrayMake<const void*>(mMaxSprites * 2);
     platformInitialise();
 }
 
@@ -84,6 +88,7 @@ void znIRenderer::terminate()
     mTexts.reset();
     mFonts.reset();
     mFontTextCounts.reset();
+    mItems.reset();
     znCParticleDataManager::destroy();
     znCAnimationDataManager::destroy();
     znCFontManager::destroy();
@@ -104,6 +109,8 @@ void znIRenderer::frameBegin()
     mTextCount = 0;
     mMaterialIndex = -1;
     mFontIndex = -1;
+    mItemCount = 0;
+    mItemsSame = true;
     if (znCFontManager* fonts = znCFontManager::instanceGet())
         fonts->frameBegin();
     readCursorsReset();
@@ -114,6 +121,7 @@ void znIRenderer::frameEnd()
 {
     if (mState == STATE_BATCHING)
     {
+        mUnchanged = unchangedGet();
         for (const auto& job : mJobs)
             job->execute();
         renderFlush();
@@ -121,6 +129,46 @@ void znIRenderer::frameEnd()
     }
     buffersSwap();
     mState = STATE_IDLE;
+}
+
+void znIRenderer::spritesAddToBatch(znISpriteRenderData* const* pData, s32 pCount)
+{
+    if (pCount < 1)
+        return;
+    const s32 first = mSpriteCount;
+    spriteAddToBatch(pData[0]);
+    const s32 room = std::min(pCount, mMaxSprites - 1 - first); // the first one that is too much is logged
+    if (mSpriteCount == first)
+        return;
+    const auto rest = static_cast<std::size_t>(room - 1);
+    const void** items = &mItems[static_cast<std::size_t>(mItemCount)];
+    mItemsSame = mItemsSame && std::memcmp(items, pData + 1, rest * sizeof *items) == 0;
+    std::memcpy(items, pData + 1, rest * sizeof *items);
+    std::copy_n(pData + 1, rest, &mSprites[static_cast<std::size_t>(mSpriteCount)]);
+    mItemCount += room - 1;
+    mSpriteCount += room - 1;
+    mMaterialSpriteCounts[static_cast<std::size_t>(mMaterialIndex)] += room - 1;
+    if (room < pCount)
+        spriteAddToBatch(pData[room]);
+}
+
+void znIRenderer::itemAdd(const void* pItem)
+{
+    const void*& item = mItems[static_cast<std::size_t>(mItemCount++)];
+    mItemsSame = mItemsSame && item == pItem;
+    item = pItem;
+}
+
+bool znIRenderer::unchangedGet()
+{
+    const u64 changes = znNRenderChanges::contentsGet();
+    const u32 glyphUvs = znNFonts::glyphUvGenerationGet();
+    const bool unchanged =
+        mItemsSame && mItemCount == mLastItemCount && changes == mLastChanges && glyphUvs == mLastGlyphUvs;
+    mLastItemCount = mItemCount;
+    mLastChanges = changes;
+    mLastGlyphUvs = glyphUvs;
+    return unchanged;
 }
 
 void znIRenderer::spriteAddToBatch(znISpriteRenderData* pData)
@@ -135,6 +183,7 @@ void znIRenderer::spriteAddToBatch(znISpriteRenderData* pData)
         return;
     if (!runOpen)
         mJobs.push_back(std::make_unique<znCRenderJobSprites>(this, mMaterialIndex));
+    itemAdd(pData);
     mSprites[static_cast<std::size_t>(mSpriteCount)] = pData;
     ++mSpriteCount;
     ++mMaterialSpriteCounts[static_cast<std::size_t>(mMaterialIndex)];
@@ -178,6 +227,7 @@ void znIRenderer::textAddToBatch(znITextRenderData* pData)
         return;
     if (!runOpen)
         mJobs.push_back(std::make_unique<znCRenderJobText>(this, mFontIndex));
+    itemAdd(pData);
     mTexts[static_cast<std::size_t>(mTextCount)] = pData;
     ++mTextCount;
     ++mFontTextCounts[static_cast<std::size_t>(mFontIndex)];

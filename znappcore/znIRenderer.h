@@ -68,7 +68,9 @@ public:
     // A full batch drops this one. The first time it logs "No room to batch another sprite. Increase mMaxSprites.\n":
     // a line a sprite and frame would fill the log.
     void spriteAddToBatch(znISpriteRenderData* pData);
-    // The same, with "No room to batch another text. Increase mMaxSprites.\n".
+    // So many sprites of one material.
+    void spritesAddToBatch(znISpriteRenderData* const* pData, s32 pCount);
+    // The same as for a sprite, with "No room to batch another text. Increase mMaxSprites.\n".
     void textAddToBatch(znITextRenderData* pData);
 
     void frameClear();
@@ -99,6 +101,9 @@ protected:
     std::unique_ptr<znITextRenderData*[]> mTexts;     // mMaxSprites; not owned
     std::unique_ptr<znIFont*[]> mFonts;               // mMaxMaterialChanges; of each run of texts
     std::unique_ptr<s32[]> mFontTextCounts;           // mMaxMaterialChanges; texts of each run
+    // The frame is gathered of the same sprites and texts as the one before, in the same order, and none of them has
+    // changed: what was drawn from them can be drawn again. Known from frameEnd() on.
+    bool mUnchanged = false;
 
     s32 mSpriteCount = 0;
     s32 mMaterialIndex = -1; // of the last run of sprites; -1 before the first
@@ -108,6 +113,15 @@ protected:
     s32 mMaxMaterialChanges;
 
 private:
+    void itemAdd(const void* pItem);
+    bool unchangedGet();
+
+    std::unique_ptr<const void*[]> mItems; // all sprites and texts of the frame, behind them those of earlier ones
+    s32 mItemCount = 0;
+    bool mItemsSame = true; // so far those of the frame before
+    s32 mLastItemCount = 0;
+    u64 mLastChanges = 0; // of the render data, when the frame before was drawn
+    u32 mLastGlyphUvs = 0;
     bool mSpritesFullLogged = false;
     bool mMaterialsFullLogged = false;
     bool mTextsFullLogged = false;

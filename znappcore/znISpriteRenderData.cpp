@@ -21,5 +21,21 @@ void znISpriteRenderData::brushApply(const znCBrush& pBrush)
         uvsSet(partGet(pBrush.xGet(), width), partGet(pBrush.xGet() + pBrush.widthGet(), width),
                partGet(pBrush.yGet(), height), partGet(pBrush.yGet() + pBrush.heightGet(), height));
     }
-    mMaterial.brushApply(pBrush);
+    znCMaterial material;
+    material.brushApply(pBrush);
+    materialSet(material);
+}
+
+void znISpriteRenderData::materialSet(const znCMaterial& pMaterial)
+{
+    if (pMaterial.materialDiffers(mMaterial))
+        znNRenderChanges::structureMark();
+    mMaterial = pMaterial;
+}
+
+void znISpriteRenderData::alphaModeSet(u32 pMode)
+{
+    znCMaterial material = mMaterial;
+    material.alphaModeSet(pMode);
+    materialSet(material);
 }

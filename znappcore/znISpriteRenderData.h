@@ -2,11 +2,13 @@
 #define ZNAPPCORE_ZNISPRITERENDERDATA_H
 
 #include "znappcore/znCMaterial.h"
+#include "znappcore/znNRenderChanges.h"
 #include "zncore/znCColour.h"
 #include "zncore/znPointF.h"
 
 // One quad as the renderer takes it. Owned by what submits it, and left alone from submission to the end of the frame.
-// Corners are in the order top left, bottom left, bottom right, top right.
+// Corners are in the order top left, bottom left, bottom right, top right. What a setter changes it marks, see
+// znNRenderChanges.
 class znISpriteRenderData
 {
 public:
@@ -19,7 +21,8 @@ public:
     // Takes texture coordinates and material from the brush, which must outlive the use of this object.
     void brushApply(const znCBrush& pBrush);
 
-    znCMaterial& materialGet() { return mMaterial; }
+    void materialSet(const znCMaterial& pMaterial);
+    void alphaModeSet(u32 pMode);
     const znCMaterial& materialGet() const { return mMaterial; }
 
 protected:
@@ -29,6 +32,7 @@ protected:
 
 private:
     znCMaterial mMaterial;
+    [[no_unique_address]] znNRenderChanges::Marker mMarker;
 };
 
 #endif

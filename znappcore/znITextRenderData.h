@@ -2,6 +2,7 @@
 #define ZNAPPCORE_ZNITEXTRENDERDATA_H
 
 #include "media/znCGraphicsMaterial.h"
+#include "znappcore/znNRenderChanges.h"
 #include "zncore/znAffineMtx2d.h"
 #include "zncore/znCColour.h"
 #include "zncore/znPoint.h"
@@ -21,7 +22,8 @@ struct znCGlyphRun
 };
 
 // One text as the renderer takes it. Owned by what submits it, and left alone from submission to the end of the frame,
-// the glyph runs included: the streams are drawn from where they lie.
+// the glyph runs included. A derived class marks whatever changes vertices, colour or glyphs, see znNRenderChanges;
+// where glyphs lie in their texture is no change of its own.
 class znITextRenderData
 {
 public:
@@ -63,6 +65,9 @@ protected:
     std::string mText;
     znPoint mFormattingRectSize;
     znIFont* mFont = nullptr; // owned by the font manager
+
+private:
+    [[no_unique_address]] znNRenderChanges::Marker mMarker;
 };
 
 #endif

@@ -28,18 +28,6 @@ float znAffineMtx2d::get(s32 pRow, s32 pColumn) const
     return element != nullptr ? this->*element : 0.0f;
 }
 
-void znAffineMtx2d::fromPosScaleRotation(const znPoint& pPosition, float pScaleX, float pScaleY, float pRadians)
-{
-    const float sine = std::sin(pRadians); // side by side, so that the compiler takes both in one step
-    const float cosine = std::cos(pRadians);
-    m00 = pScaleX * cosine;
-    m10 = -(pScaleX * sine);
-    m01 = pScaleY * sine;
-    m11 = pScaleY * cosine;
-    m02 = static_cast<float>(pPosition.mX);
-    m12 = static_cast<float>(pPosition.mY);
-}
-
 bool znAffineMtx2d::inverseTransform(const float pIn[2], float pOut[2]) const
 {
     const float determinant = m11 * m00 - m01 * m10;

@@ -7,6 +7,8 @@
 #include "zncore/znPoint.h"
 #include "zncore/znTypes.h"
 
+#include <cmath>
+
 class znAffineMtx2d
 {
 public:
@@ -24,7 +26,17 @@ public:
 
     // Makes this the matrix that scales, turns and then moves:
     // m00 = sx cos r, m10 = -(sx sin r), m01 = sy sin r, m11 = sy cos r.
-    void fromPosScaleRotation(const znPoint& pPosition, float pScaleX, float pScaleY, float pRadians);
+    void fromPosScaleRotation(const znPoint& pPosition, float pScaleX, float pScaleY, float pRadians)
+    {
+        const float sine = std::sin(pRadians); // side by side, so that the compiler takes both in one step
+        const float cosine = std::cos(pRadians);
+        *this = {pScaleX * cosine,
+                 -(pScaleX * sine),
+                 pScaleY * sine,
+                 pScaleY * cosine,
+                 static_cast<float>(pPosition.mX),
+                 static_cast<float>(pPosition.mY)};
+    }
 
     // Both may be the same array.
     void transform(const float pIn[2], float pOut[2]) const
@@ -38,12 +50,18 @@ public:
     // False, and (0, 0), if the matrix maps the plane on a line or a point.
     bool inverseTransform(const float pIn[2], float pOut[2]) const;
 
-    znAffineMtx2d& operator*=(const znAffineMtx2d& pOther);
+    znAffineMtx2d& operator*=(const znAffineMtx2d& pOther)
+    {
+        *this = *this * pOther;
+        return *this;
+    }
+    // In the header, as is fromPosScaleRotation: every node of the tree has its matrix made this way each time it
+    // moves.
     znAffineMtx2d operator*(const znAffineMtx2d& pOther) const
     {
-        znAffineMtx2d result = *this;
-        result *= pOther;
-        return result;
+        return {m01 * pOther.m10 + m00 * pOther.m00,       m11 * pOther.m10 + m10 * pOther.m00,
+                m00 * pOther.m01 + m01 * pOther.m11,       m10 * pOther.m01 + m11 * pOther.m11,
+                m01 * pOther.m12 + m00 * pOther.m02 + m02, m11 * pOther.m12 + m10 * pOther.m02 + m12};
     }
 
     bool operator==(const znAffineMtx2d& pOther) const = default;
@@ -59,19 +77,5 @@ public:
 private:
     float znAffineMtx2d::*elementGet(s32 pRow, s32 pColumn) const;
 };
-
-// In the header: every node of the tree multiplies by one of these each time it moves.
-inline znAffineMtx2d& znAffineMtx2d::operator*=(const znAffineMtx2d& pOther)
-{
-    const znAffineMtx2d a = *this;
-    const znAffineMtx2d b = pOther;
-    m00 = a.m01 * b.m10 + a.m00 * b.m00;
-    m01 = a.m00 * b.m01 + a.m01 * b.m11;
-    m02 = a.m01 * b.m12 + a.m00 * b.m02 + a.m02;
-    m10 = a.m11 * b.m10 + a.m10 * b.m00;
-    m11 = a.m10 * b.m01 + a.m11 * b.m11;
-    m12 = a.m11 * b.m12 + a.m10 * b.m02 + a.m12;
-    return *this;
-}
 
 #endif

@@ -2,12 +2,12 @@
 #include "zncore/debug/znIDebug.h"
 #include "zncore/znCResourceName.h"
 #include "zncore/znIFile.h"
+#include "zncore/znNByteOrderMark.h"
 #include <bit>
 #include <cmath>
 
 namespace
 {
-constexpr std::string_view BYTE_ORDER_MARK = "\xEF\xBB\xBF";
 constexpr uint32 RANDOM_FACTOR = 0x343FD;
 constexpr uint32 RANDOM_STEP = 0x269EC3;
 
@@ -67,8 +67,7 @@ std::vector<std::string> znNCoreUtils::textFileReadToVector(const znCResourceNam
     text.resize(std::min(text.find('\0'), text.size()));
     std::vector<std::string> lines;
     std::string line;
-    for (std::string::size_type at = text.starts_with(BYTE_ORDER_MARK) ? BYTE_ORDER_MARK.size() : 0; at < text.size();
-         ++at)
+    for (std::string::size_type at = text.size() - znNByteOrderMark::cut(text).size(); at < text.size(); ++at)
     {
         if (text[at] == '\n')
         {

@@ -13,12 +13,14 @@
 #include "zncore/debug/znIDebug.h"
 #include "zncore/znCResourceName.h"
 #include "zncore/znIFile.h"
+#include "zncore/znNCoreUtils.h"
 #include "znhogcore/components/gui/znCPickListGui.h"
 #include "znhogcore/components/znCHogLevelLoaderComponent.h"
 #include "znhogcore/components/znCLevelCompleteCheckerComponent.h"
 #include "znhogcore/components/znCSubSceneComponent.h"
 #include "znhogcore/src/znCHogCoreMain.h"
 #include "znhogcore/src/znCHogLevel.h"
+#include "znhogcore/src/znCHogMapLevel.h"
 #include "znhogcore/src/znCHogMessageDispatcher.h"
 #include "znhogcore/src/znCHogUserSavedData.h"
 
@@ -41,6 +43,27 @@ constexpr s32 PLACING_STEP_MS = 1;
 constexpr char HINT_EFFECT_NAME[] = "HintEffect";
 constexpr char HINT_PARTICLES[] = "particles/pHint.txt";
 constexpr s32 HINT_MS = 4000;
+
+// A place of the level in the space of the sub-scene, which a player on a touch device may have moved and enlarged, the
+// latter in both directions alike.
+znPoint insideGet(const znCEntity& pSubScene, const znPoint& pPos)
+{
+    const znPoint& origin = pSubScene.posGet();
+    const float scale = pSubScene.scaleYGet() > 0.0f ? pSubScene.scaleYGet() : 1.0f;
+    const auto local = [scale](s32 pTo, s32 pFrom)
+    {
+        return znNCoreUtils::s32Saturate(static_cast<s64>(static_cast<float>(s64(pTo) - pFrom) / scale));
+    };
+    return znPoint(local(pPos.mX, origin.mX), local(pPos.mY, origin.mY));
+}
+
+template <class T>
+znIHogLevel* levelAdd()
+{
+    auto* level = new T; // owned by the tree
+    znCHogCoreMain::instanceGet()->appDisplayChildAdd(level);
+    return level;
+}
 } // namespace
 
 znIHogLevel::znIHogLevel() : znIMessageListenerEntity(NAME) {}
@@ -51,9 +74,9 @@ void znIHogLevel::create(const std::string& pName)
     ZN_ASSERT(!standing, "Already created.\n");
     if (standing)
         return;
-    auto* level = new znCHogLevel; // owned by the tree
-    znCHogCoreMain::instanceGet()->appDisplayChildAdd(level);
-    level->componentAdd<znCLevelCompleteCheckerComponent>();
+    znIHogLevel* level = pName == znCHogCoreMain::MAP ? levelAdd<znCHogMapLevel>() : levelAdd<znCHogLevel>();
+    if (pName != znCHogCoreMain::MAP)
+        level->componentAdd<znCLevelCompleteCheckerComponent>();
     level->messagesRegister();
     level->levelLoad(pName);
     level->soundStart();
@@ -263,12 +286,11 @@ void znIHogLevel::hintShow(znCEntity* pEntity)
         znCResourceName(HINT_PARTICLES, znCResourceName::GAME_DATA));
     // A GUI without the button has another way to ask for a hint: it comes from the middle of the screen then.
     const znPoint start = button != nullptr ? button->posRelativeToAncestorGet(parentGet()) : znPoint(0, 0);
+    const znCEntity& scene = *subScene->entityGet();
     // The object may lie in another sub-scene than the one on top.
-    const znPoint origin = subScene->entityGet()->posGet();
-    const znPoint end = pEntity->posRelativeToAncestorGet(this);
-    effect->componentAdd<znCHookedLineTrailComponent>()->trailInitialise(
-        znPoint(start.mX - origin.mX, start.mY - origin.mY), znPoint(end.mX - origin.mX, end.mY - origin.mY), HINT_MS,
-        true);
+    const bool inside = pEntity->parentGet() == &scene;
+    const znPoint end = inside ? pEntity->posGet() : insideGet(scene, pEntity->posRelativeToAncestorGet(this));
+    effect->componentAdd<znCHookedLineTrailComponent>()->trailInitialise(insideGet(scene, start), end, HINT_MS, true);
     znCHogUserSavedData::instanceGet()->s32Set(znCHogUserSavedData::HINT_FREE_STREAK, znCHogUserSavedData::HINT_USED);
 }
 

@@ -292,6 +292,39 @@ class Chart:
 <linearGradient id="fold" x1="0" x2="1" y1="0" y2="0"><stop offset="0" stop-color="#3b2308" stop-opacity="0"/><stop offset="0.46" stop-color="#3b2308" stop-opacity="0.28"/><stop offset="0.5" stop-color="#fff3cf" stop-opacity="0.5"/><stop offset="0.56" stop-color="#3b2308" stop-opacity="0.12"/><stop offset="1" stop-color="#3b2308" stop-opacity="0"/></linearGradient>"""
 
 
+def voyage_chart(places):
+    """The chart that is sailed by, as SVG body and definitions: no lamps at the places given as (x, y, half width, half height), which
+    are pictures of their own; the smaller ones along the route are dark."""
+    chart = Chart()
+    chart.take(900 / S, 86 / S, 112, 34)
+    for x, y, half_w, half_h in places:
+        chart.take(x / S, y / S, half_w / S, half_h / S)
+    chart.ground()
+    stops = chart.route([(1130, 560), (800, 640), (905, 300), (640, 130), (235, 335)])
+    lamps = [chart.shore(*stop) for stop in (stops[1], stops[4])]
+    for x, y in lamps:
+        chart.take(x / S, (y - 26) / S, 20, 34)
+    rose = chart.place(118, 118, (400, 600))
+    beast = chart.place(108, 44, (960, 700))
+    labels = [chart.label("The Grey Sound", 40, (390, 440), space=5, turn=-3), chart.label("Gannet Bank", 24, (460, 90)), chart.label("Kelpie Race", 24, (700, 690)),
+              chart.label("Bay of Bells", 22, (780, 200)), chart.label("Corran", 34, (1240, 420), True, False, 5, "Goudy Bookletter 1911"), chart.label("Tern Isle", 24, (620, 380), True),
+              chart.label("Bell Haven", 20, (1010, 440), True, False), chart.label("Port Merrow", 22, (1100, 400), True, False), chart.label("Lamp Head", 22, (150, 240), True, False),
+              chart.label("Skerry Point", 20, (890, 560), True)]
+    chart.country()
+    chart.rose(*rose, 92)
+    chart.serpent(*beast)
+    for label in labels:
+        label()
+    for x, y in lamps:
+        chart.lamp(x, y + 4, False)
+    chart.add('<g transform="translate(900,86)"><path d="M-204 -42 Q-218 0 -204 42 H204 Q218 0 204 -42Z" fill="#ecd6a2" stroke="#4a2c10" stroke-width="3"/><path d="M-194 -34 Q-206 0 -194 34 H194 Q206 0 194 -34Z" fill="none" stroke="#4a2c10" stroke-width="1"/></g>')
+    chart.text("THE MAIL ROUTE", 900, 84, 28, 0, 2, False, "Goudy Bookletter 1911")
+    chart.text("and the lamps along it", 900, 110, 18)
+    chart.frame()
+    chart.wear()
+    return "\n".join(chart.out), chart.defs()
+
+
 def mail_route():
     """The whole chart as SVG body and definitions."""
     chart = Chart()

@@ -110,7 +110,7 @@ def entry():
 
 
 def main():
-    for name, w, h in (("button_large", 320, 72), ("button_medium", 220, 60), ("button_small", 64, 64)):
+    for name, w, h in (("button_large", 320, 72), ("button_medium", 220, 60), ("button_narrow", 196, 60), ("button_small", 64, 64)):
         button(name, w, h)
     for on in (False, True):
         for over in (False, True):

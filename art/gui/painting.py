@@ -315,12 +315,11 @@ def stroke_stamp(length, width, random):
     return side * end * start, hairs
 
 
-def paint(picture):
-    """Strokes over strokes: each layer looks at a blurred picture and covers what still differs from it."""
+def paint(picture, detail):
+    """Strokes over strokes: each layer looks at a blurred picture and covers what still differs from it; `detail` 1 keeps drawn edges."""
     canvas = gaussian_filter(picture, (14, 14, 0))
     height = np.zeros((H, W))
     random = np.random.default_rng(7)
-    detail = detail_map(picture)
     for width, length, gap, blur, tolerance, body in ((26, 110, 13, 7, 0, 0.9), (13, 58, 7, 3.2, 5, 0.85), (7, 30, 4, 1.5, 7, 0.8), (4, 15, 2.6, 0.7, 8, 0.75)):
         goal = gaussian_filter(picture, (blur, blur, 0))
         grey = gaussian_filter(goal.mean(axis=2), max(1.5, blur))
@@ -393,7 +392,8 @@ def main():
     Image.fromarray(picture.astype(np.uint8)).save(f"{WORK}/dusk.png")
     if "draft" in sys.argv:
         return
-    photo(Image.fromarray(np.clip(stars(paint(picture)), 0, 255).astype(np.uint8)), "gui/title/background.jpg", 91)
+    photo(Image.fromarray(np.clip(stars(paint(picture, detail_map(picture))), 0, 255).astype(np.uint8)), "gui/title/background.jpg", 91)
 
 
-main()
+if __name__ == "__main__":
+    main()

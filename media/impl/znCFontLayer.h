@@ -39,6 +39,7 @@ public:
     znCGlyphStore mStore;
     znCTextLayout mLayout;
     float mDisplayScale = 1.0f;
+    float mTextScale = 1.0f;
 
 private:
     FT_Library mLibrary = nullptr;

@@ -204,6 +204,46 @@ TEST_F(znCScreenTest, MoreQuadsThanIndicesReach)
         ASSERT_EQ(pixelAt(i % WIDTH, i / WIDTH % HEIGHT), (Pixel{i & 0xff, i >> 8, 7, 255})) << i;
 }
 
+// Streams that lie side by side and one run behind the other are drawn as packed ones are, and are drawn again when
+// they are said to be unchanged, whatever else was drawn in between.
+TEST_F(znCScreenTest, UnchangedRunsAreDrawnAgain)
+{
+    const u32 red = colour(255, 0, 0, 255);
+    const u32 green = colour(0, 255, 0, 255);
+    s3eDrawVertex vertices[8] = {{0, 0, 0, 0, red},   {0, 8, 0, 1, red},   {8, 8, 1, 1, red},    {8, 0, 1, 0, red},
+                                 {8, 0, 0, 0, green}, {8, 8, 0, 1, green}, {16, 8, 1, 1, green}, {16, 0, 1, 0, green}};
+    const auto pairDraw = [&](bool pUnchanged)
+    {
+        mScreen->clear(0);
+        for (s32 first : {0, 4})
+            mScreen->runAdd({0, S3E_DRAW_BLEND_NONE, 0, 4, &vertices[first].mX, &vertices[first].mU,
+                             &vertices[first].mColour, sizeof(s3eDrawVertex), pUnchanged});
+        mScreen->flush();
+        EXPECT_EQ(pixelAt(4, 4), (Pixel{255, 0, 0, 255}));
+        EXPECT_EQ(pixelAt(12, 4), (Pixel{0, 255, 0, 255}));
+        EXPECT_EQ(pixelAt(20, 4), (Pixel{0, 0, 0, 0}));
+    };
+    pairDraw(false);
+    pairDraw(true);
+    mScreen->present();
+    mScreen->clear(0);
+    quadAdd(0, S3E_DRAW_BLEND_NONE, red, 20, 0, 28, 8);
+    quadAdd(0, S3E_DRAW_BLEND_NONE, red, 40, 0, 48, 8);
+    mScreen->flush();
+    EXPECT_EQ(pixelAt(44, 4), (Pixel{255, 0, 0, 255}));
+    pairDraw(true);
+
+    // A gap between two runs, and a run of each kind.
+    mScreen->clear(0);
+    quadAdd(0, S3E_DRAW_BLEND_NONE, red, 20, 0, 28, 8);
+    mScreen->runAdd(
+        {0, S3E_DRAW_BLEND_NONE, 0, 4, &vertices[4].mX, &vertices[4].mU, &vertices[4].mColour, sizeof(s3eDrawVertex)});
+    mScreen->flush();
+    EXPECT_EQ(pixelAt(24, 4), (Pixel{255, 0, 0, 255}));
+    EXPECT_EQ(pixelAt(12, 4), (Pixel{0, 255, 0, 255}));
+    EXPECT_EQ(pixelAt(4, 4), (Pixel{0, 0, 0, 0}));
+}
+
 TEST_F(znCScreenTest, RunsThatDrawNothingHarmNothing)
 {
     const float positions[8] = {0, 0, 0, 9, 9, 9, 9, 0};

@@ -397,6 +397,62 @@ TEST_F(znCGraphicsTextTest, TooManyLinesShrinkToFitAndAreLoggedOnce)
     EXPECT_EQ(mPlatform.logCountGet("does not fit its box"), 2);
 }
 
+TEST_F(znCGraphicsTextTest, GrowsWithTheTextScaleWhereThereIsRoom)
+{
+    struct Case
+    {
+        const char* mText;
+        s32 mWidth;
+        s32 mHeight;
+        bool mGrows;
+        bool mFully; // as far as the scale asks
+    };
+    const Case cases[] = {
+        {"lamp", 400, 100, true, true},
+        {"lamp", 1, 100, false, false},     // breaks within the word as it is, and stays
+        {"a\nb\nc", 100, 60, false, false}, // had to shrink
+        {"mm mm", 400, 20, false, false},   // no higher than the box
+    };
+    for (const Case& c : cases)
+    {
+        znCGraphicsText text;
+        znNFonts::textScaleSet(1.0f);
+        text.prepare(mFont, c.mText, c.mWidth, c.mHeight, 0, 0);
+        const s32 width = text.widthGet();
+        const s32 lines = text.lineCountGet();
+        znNFonts::textScaleSet(1.5f);
+        text.prepare(mFont, c.mText, c.mWidth, c.mHeight, 0, 0);
+        EXPECT_EQ(text.widthGet() > width, c.mGrows) << c.mText << " " << c.mWidth;
+        EXPECT_EQ(text.widthGet() > width * 14 / 10, c.mFully) << c.mText;
+        EXPECT_EQ(text.lineCountGet(), lines) << c.mText;
+    }
+    // A label that just fits grows a little or not at all, and never breaks.
+    znCGraphicsText text;
+    znNFonts::textScaleSet(1.0f);
+    text.prepare(mFont, "Continue", 400, 100, 0, 0);
+    const s32 room = text.widthGet() * 5 / 4;
+    znNFonts::textScaleSet(1.5f);
+    text.prepare(mFont, "Continue", room, 100, 0, 0);
+    EXPECT_EQ(text.lineCountGet(), 1);
+    EXPECT_LE(text.widthGet(), room);
+    znNFonts::textScaleSet(0.0f);
+    EXPECT_EQ(znNFonts::textScaleGet(), 1.0f);
+    EXPECT_EQ(mPlatform.logCountGet("does not fit its box"), 2);
+}
+
+TEST_F(znCGraphicsTextTest, GrowsByAScaleThatWasSetBeforeThereAreFonts)
+{
+    const s32 width = textMake("lamp").widthGet();
+    znNFonts::terminate();
+    znNFonts::textScaleSet(1.5f);
+    znNFonts::initialise();
+    znCGraphicsFont font;
+    ASSERT_TRUE(font.load(znCResourceName(sClarendon, znCResourceName::GAME_DATA), 30));
+    znCGraphicsText text;
+    text.prepare(font, "lamp", sWide, 1000, 0, 0);
+    EXPECT_GT(text.widthGet(), width * 14 / 10);
+}
+
 TEST(znCGraphicsText, IsEmptyWithoutTheFontLayer)
 {
     znCGraphicsFont font;

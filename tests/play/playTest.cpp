@@ -121,8 +121,8 @@ TEST(playTest, opensAndClosesTheOptionsAndQuitsByItsButton)
     GameRun run("options");
     playerSign(run);
     const std::string script = "wait 1200\ntap 600 100\nwait 1100\ntap 600 100\nwait 900\nshot title\n"
-                               "tap 920 606\nwait 200\ndown 778 254\nwait 50\nmove 2000 700\nwait 50\nup 2000 700\n"
-                               "tap 417 396\nwait 50\nmove 417 454\ntap 417 454\nwait 100\nshot options\n"
+                               "tap 920 606\nwait 200\ndown 778 232\nwait 50\nmove 2000 700\nwait 50\nup 2000 700\n"
+                               "tap 417 390\nwait 50\nmove 417 444\ntap 417 444\nwait 100\nshot options\n"
                                "tap 879 562\nwait 200\ntap 920 686\nwait 200\ntap 803 480\nwait 200\n"
                                "tap 920 686\nwait 200\ntap 558 480\nwait 5000\nshot neverseen\n";
     ASSERT_EQ(run.headlessRun({"--script", run.scriptWrite(script)}), 0) << run.errorGet();

@@ -26,10 +26,15 @@ bool blendKnown(u32 pBlend)
            pBlend == S3E_DRAW_BLEND_ALPHA;
 }
 
+// Of each vertex so many numbers.
 template <class T>
-std::vector<T> streamCopy(const T* pStream, s32 pCount)
+std::vector<T> streamCopy(const T* pStream, s32 pVertices, s32 pNumbers, s32 pStride)
 {
-    return pStream != nullptr ? std::vector<T>(pStream, pStream + pCount) : std::vector<T>();
+    std::vector<T> copy;
+    const std::ptrdiff_t step = pStride == 0 ? pNumbers : pStride / static_cast<s32>(sizeof(T));
+    for (s32 i = 0; pStream != nullptr && i < pVertices; ++i, pStream += step)
+        copy.insert(copy.end(), pStream, pStream + pNumbers);
+    return copy;
 }
 } // namespace
 
@@ -47,8 +52,9 @@ u32 znCTestDraw::textureCreate(s32 pFormat, s32 pWidth, s32 pHeight, const void*
         return 0;
     }
     const u32 id = mNextTexture++;
-    mTextures[id] = {pFormat, pWidth, pHeight,
-                     std::vector<u8>(static_cast<std::size_t>(pWidth) * static_cast<std::size_t>(pHeight * texel)), 0};
+    mTextures[id] = {pFormat, pWidth, pHeight, {}, 0};
+    if (mRecording)
+        mTextures[id].mPixels.resize(static_cast<std::size_t>(pWidth) * static_cast<std::size_t>(pHeight * texel));
     if (pPixels != nullptr)
     {
         textureUpdate(id, 0, 0, pWidth, pHeight, pPixels, pPitch);
@@ -69,7 +75,7 @@ s3eResult znCTestDraw::textureUpdate(u32 pTexture, s32 pX, s32 pY, s32 pWidth, s
     }
     Texture& texture = found->second;
     const s32 texel = texelSizeGet(texture.mFormat);
-    for (s32 row = 0; row < pHeight; ++row)
+    for (s32 row = 0; row < pHeight && !texture.mPixels.empty(); ++row)
         std::memcpy(texture.mPixels.data() + ((pY + row) * texture.mWidth + pX) * texel,
                     static_cast<const u8*>(pPixels) + static_cast<std::ptrdiff_t>(row) * pPitch,
                     static_cast<std::size_t>(pWidth * texel));
@@ -116,9 +122,22 @@ void znCTestDraw::flush()
     ++mFlushCount;
     for (const s3eDrawRun& run : mQueued)
         mFrame.push_back({run.mTexture, run.mBlend, run.mColour, run.mVertexCount,
-                          streamCopy(run.mPositions, run.mVertexCount * 2), streamCopy(run.mUvs, run.mVertexCount * 2),
-                          streamCopy(run.mColours, run.mVertexCount)});
+                          streamCopy(run.mPositions, run.mVertexCount, 2, run.mStride),
+                          streamCopy(run.mTexture != 0 ? run.mUvs : nullptr, run.mVertexCount, 2, run.mStride),
+                          streamCopy(run.mColours, run.mVertexCount, 1, run.mStride), run.mUnchanged != 0});
+    unchangedCheck();
     mQueued.clear();
+}
+
+// Runs that are said to be those of the flush before are compared with them.
+void znCTestDraw::unchangedCheck()
+{
+    for (std::size_t i = 0; i < mFrame.size() && mFrame[i].mUnchanged; ++i)
+        if (i >= mFlushed.size() || mFrame[i].mPositions != mFlushed[i].mPositions ||
+            mFrame[i].mUvs != mFlushed[i].mUvs || mFrame[i].mColours != mFlushed[i].mColours)
+            mFaults.push_back("flush: a run that should be unchanged differs");
+    if (mRecording)
+        mFlushed = mFrame;
 }
 
 void znCTestDraw::present()

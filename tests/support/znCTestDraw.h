@@ -19,7 +19,7 @@ public:
         s32 mFormat;
         s32 mWidth;
         s32 mHeight;
-        std::vector<u8> mPixels; // rows without gaps
+        std::vector<u8> mPixels; // rows without gaps; empty when it was made without recording
         s32 mUpdateCount = 0;
     };
 
@@ -32,11 +32,12 @@ public:
         std::vector<float> mPositions;
         std::vector<float> mUvs;   // empty when there were none
         std::vector<u32> mColours; // empty when mColour counts
+        bool mUnchanged;           // said to be those of the flush before
     };
 
     // --- for the test ---
     bool mPresent = true;   // s3eExtGetHash finds the table
-    bool mRecording = true; // off: runs are counted only, and nothing is allocated
+    bool mRecording = true; // off: runs are counted only, nothing is allocated, and new textures keep no pixels
     s32 mSizeLimit = 8192;
     s32 mCreateFailCount = 0; // so many of the next textureCreate calls fail; -1: all
     std::map<u32, Texture> mTextures;
@@ -62,8 +63,10 @@ public:
 
 private:
     void runCheck(const s3eDrawRun& pRun);
+    void unchangedCheck();
 
     std::vector<s3eDrawRun> mQueued;
+    std::vector<Run> mFlushed; // by the flush before
     u32 mNextTexture = 1;
 };
 

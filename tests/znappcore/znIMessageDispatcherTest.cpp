@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <random>
 
 namespace
 {
@@ -125,6 +126,41 @@ TEST_F(znIMessageDispatcherTest, AsksByPriorityThenTheLatestFirst)
         EXPECT_EQ(dispatcher.messageSend(PING, nullptr), !consumer.empty());
         EXPECT_EQ(journal, test.mAsked);
     }
+}
+
+// Against a plain list, while listeners come and go as scenes make and delete them: in order, backwards and mixed.
+TEST_F(znIMessageDispatcherTest, ManyComeAndGo)
+{
+    std::mt19937 random(3);
+    std::vector<std::pair<Listener*, char>> here; // in the order in which they came
+    std::vector<std::pair<Listener*, char>> gone;
+    for (char name = 'A'; name < 'Z'; ++name)
+        gone.emplace_back(make(std::string(1, name), name % 3 - 1), name);
+    const auto move = [&](auto& pFrom, auto& pTo, std::size_t pPlace)
+    {
+        pTo.push_back(pFrom[pPlace]);
+        pFrom.erase(pFrom.begin() + static_cast<std::ptrdiff_t>(pPlace));
+        return pTo.back().first;
+    };
+    for (s32 step = 0; step < 2000; ++step)
+    {
+        const s32 phase = step / 50 % 4; // mostly coming, from the front, from the back, at random
+        if (!gone.empty() && (phase == 0 || random() % 3 == 0))
+            mDispatcher.listenerRegister(PING, move(gone, here, random() % gone.size()));
+        else if (!here.empty())
+            mDispatcher.listenerDeregister(PING, move(here, gone,
+                                                      phase == 1   ? 0
+                                                      : phase == 2 ? here.size() - 1
+                                                                   : random() % here.size()));
+        std::string expected;
+        for (const s32 priority : {1, 0, -1})
+            for (auto entry = here.rbegin(); entry != here.rend(); ++entry)
+                if (entry->first->priorityGet() == priority)
+                    expected += entry->second;
+        ASSERT_EQ(sent(), expected) << "step " << step;
+    }
+    for (const auto& [listener, name] : here)
+        mDispatcher.listenerDeregister(PING, listener);
 }
 
 TEST_F(znIMessageDispatcherTest, NobodyListens)

@@ -50,7 +50,7 @@ protected:
             mSprites.emplace_back().brushApply(*mBrushes.back());
         }
         mSprites.push_back(mSprites[0]);
-        mSprites.back().materialGet().alphaModeSet(znCMaterial::BLEND_ADD);
+        mSprites.back().alphaModeSet(znCMaterial::BLEND_ADD);
     }
 
     // Draws a frame of what the letters say: a, b, c sprites by texture, A texture a added, t and u texts by font.
@@ -130,8 +130,31 @@ TEST_F(znIRendererTest, handsStreamsOverInCornerOrder)
     EXPECT_EQ(run.mUvs, (std::vector<float>{0.1f, 0.3f, 0.1f, 0.4f, 0.2f, 0.4f, 0.2f, 0.3f}));
     EXPECT_EQ(run.mColours, std::vector<u32>(4, 0xFE007FFFu));
     const znCTestDraw::Run& text = mCore.mPlatform.mDraw.mPresented[2];
-    EXPECT_TRUE(text.mColours.empty());
-    EXPECT_EQ(text.mColour, 0x11223344u);
+    EXPECT_EQ(text.mColours, std::vector<u32>(8, 0x11223344u));
+}
+
+TEST_F(znIRendererTest, drawsTheStreamsOfAnUnchangedFrameAgain)
+{
+    const auto unchangedCount = [&](const std::string& pLetters)
+    {
+        frame(pLetters);
+        s32 count = 0;
+        for (const znCTestDraw::Run& run : mCore.mPlatform.mDraw.mPresented)
+            count += run.mUnchanged;
+        return count;
+    };
+    const znPointF corners[4] = {{1, 2}, {3, 4}, {5, 6}, {7, 8}};
+    const std::pair<const char*, s32> cases[] = {{"aatb", 0}, {"aatb", 3}, {"atab", 0}, {"atab", 4}, {"ata", 0},
+                                                 {"atab", 0}, {"", 0},     {"atab", 0}, {"atab", 4}};
+    for (const auto& [letters, count] : cases)
+        EXPECT_EQ(unchangedCount(letters), count) << letters;
+    mSprites[1].verticesSet(corners);
+    EXPECT_EQ(unchangedCount("atab"), 0);
+    EXPECT_EQ(mCore.mPlatform.mDraw.mPresented[3].mPositions[6], 7.0f);
+    EXPECT_EQ(unchangedCount("atab"), 4);
+    mSprites[0] = znCSpriteRenderData(mSprites[1]);
+    EXPECT_EQ(unchangedCount("atab"), 0);
+    EXPECT_EQ(mCore.mPlatform.mDraw.mPresented[0].mPositions[6], 7.0f);
 }
 
 TEST_F(znIRendererTest, packsColoursOfAnyComponents)

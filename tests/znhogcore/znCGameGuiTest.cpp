@@ -266,6 +266,9 @@ TEST_F(znCGameGuiTest, sellsHints)
     button(HINT_X);
     EXPECT_EQ(hintGet(), -1);
     EXPECT_EQ(user().s32Get("hints"), 0);
+    user().s32Set("hints", -5); // of a file that somebody has written
+    button(HINT_X);
+    EXPECT_EQ(hintGet(), -1);
     user().s32Set("hints", 3);
     znCGuiMessageDispatcher::instanceGet()->messageSend(znCCommodityButtonComponent::ITEM_PURCHASED,
                                                         znCEmptyMessageData::sharedGet());

@@ -97,5 +97,13 @@ TEST_F(znCGhostSpriteComponentTest, pulses)
     }
     EXPECT_NEAR(least, 0x60u, 3);
     EXPECT_NEAR(most, 0xb0u, 3);
+    // Once a second, without a jump.
+    constexpr u32 STEP = 2 + 0x30 * FRAME_MS / 250;
+    for (s32 i = 0; i < 1100 / FRAME_MS; ++i)
+    {
+        const u32 before = greenGet();
+        frame();
+        EXPECT_LE(greenGet() > before ? greenGet() - before : before - greenGet(), STEP) << i;
+    }
 }
 } // namespace

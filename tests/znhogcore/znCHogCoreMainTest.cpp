@@ -66,6 +66,38 @@ TEST_F(znCHogCoreMainTest, opensAScreenWhenTheOneBeforeHasGone)
     EXPECT_NE(user().strGet("LevDat:quay"), "");
 }
 
+// Ends the level "quay" as soon as it hears that it stands.
+class Impatient : public znIMessageListener
+{
+public:
+    Impatient() { messagesRegister(); }
+    ~Impatient() override { messagesDeregister(); }
+    void messagesRegister() override
+    {
+        znCHogMessageDispatcher::instanceGet()->listenerRegister(znCHogMessageDispatcher::LEVEL_LOAD_COMP, this);
+    }
+    void messagesDeregister() override
+    {
+        znCHogMessageDispatcher::instanceGet()->listenerDeregister(znCHogMessageDispatcher::LEVEL_LOAD_COMP, this);
+    }
+    bool messageProcess(const znCUniqueId&, void*) override
+    {
+        if (znIHogLevel::levelGet()->levelNameGet() == "quay")
+            znCHogMessageDispatcher::instanceGet()->messageSend(znCHogMessageDispatcher::LEVEL_COMPLETE, nullptr);
+        return false;
+    }
+};
+
+TEST_F(znCHogCoreMainTest, goesOnFromALevelThatIsOverAsItOpens)
+{
+    sceneSet("quay", "Background.png,0,0\n", "ACT1NextLev = \"shop\",\r\n");
+    sceneSet("shop", "Background.png,0,0\n");
+    const Impatient impatient;
+    sceneOpen("quay");
+    frame(2 * 500 / FRAME_MS + 10);
+    EXPECT_EQ(level().levelNameGet(), "shop");
+}
+
 TEST_F(znCHogCoreMainTest, storesALevelThatStandsAtTheEnd)
 {
     sceneSet("quay", "Background.png,0,0\n");
@@ -101,6 +133,7 @@ TEST_F(znCHogCoreMainTest, neverLeavesThePlayerBeforeAnEmptyScreen)
         {"empty", "The screen empty can't be opened: scenes/empty/coords.txt is missing or makes no scene."},
         {"headless", "The screen headless can't be opened: scenes/headless/coords.txt is missing or makes no scene."},
         {"gui/nosuch.txt", "The screen gui/nosuch.txt can't be opened: gui/nosuch.txt is missing or makes no scene."},
+        {"gui/broken.txt", "The screen gui/broken.txt can't be opened: gui/broken.txt is missing or makes no scene."},
         {"", "No screen was asked for: the main menu opens."},
     };
     constexpr s32 FADE_FRAMES = 2 * 500 / FRAME_MS + 10;
@@ -111,6 +144,7 @@ TEST_F(znCHogCoreMainTest, neverLeavesThePlayerBeforeAnEmptyScreen)
                              "MessageBoxMessageText\n  font = \"fonts/test.ttf\"\n }\n}\n");
     sceneSet("quay", "Background.png,0,0\n");
     sceneSet("empty", "");
+    mPlatform.mFiles.fileSet("gui/broken.txt", "}{ rubbish");
     sceneSet("headless", "HOT-bell.png,0,0\n");
     for (const Case& c : cases)
     {

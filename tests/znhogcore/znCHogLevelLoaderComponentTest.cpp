@@ -128,6 +128,9 @@ TEST_F(znCHogLevelLoaderComponentTest, survivesAListThatIsNone)
         {"a.png,1,2\nb.png,1,2\n", {noBackground, noBackground, noScene}},
         {"a.png,1,2\nBackground.png,0,0\n", {noBackground}},
         {"Background.png,0,0", {noEnd}},
+        {"\xef\xbb\xbf"
+         "Background.png,0,0\n",
+         {}}, // some editors put it there
         {std::string(100, '\0') + "\n", {noScene}},
         {std::string("a\0b,1,2\n", 8), {noScene}},
         {std::string(1000, 'x') + ",1,2\n", {noScene}},
@@ -144,7 +147,44 @@ TEST_F(znCHogLevelLoaderComponentTest, survivesAListThatIsNone)
         if (znIHogLevel::levelGet() != nullptr)
             levelEnd();
         else
-            EXPECT_EQ(c.mErrors.back(), noScene);
+            EXPECT_EQ(c.mErrors.empty() ? "" : c.mErrors.back(), noScene);
+    }
+}
+
+TEST_F(znCHogLevelLoaderComponentTest, saysWhatCannotBeFoundOrOpened)
+{
+    struct Case
+    {
+        const char* mWhat;
+        const char* mObjects;
+        std::vector<std::string> mFaults; // behind "scenes/quay/coords.txt"
+    };
+    const std::string twice = " more than once: only a tail \"-m1\" to \"-m9\" tells two placements apart.";
+    const Case cases[] = {
+        {"two finds of one name", "PCK-rope.png,0,0\nPCK-rope.png,90,0\n", {" names PCK-rope.png" + twice}},
+        {"two keys of one name",
+         "PRE-oil-lamp.png,0,0\nINS-oil.png,90,0\nINS-oil.png,90,90\n",
+         {" names INS-oil.png" + twice}},
+        {"placements told apart", "PCK-rope-m1.png,0,0\nPCK-rope-m2.png,90,0\n", {}},
+        {"decoration", "crate.png,0,0\ncrate.png,90,0\n", {}},
+        {"a lock and its keys", "PRE-oil-wick-lamp.png,0,0\nINS-oil.png,90,0\nINS-brass+wick-m1.png,90,90\n", {}},
+        {"no key", "PRE-oil-lamp.png,0,0\n", {": a lock in SubScene0 needs the key \"oil\", which doesn't lie there."}},
+        {"a key elsewhere",
+         "PRE-oil-lamp.png,0,0\nBackground2.png,0,0\nINS-oil.png,90,0\n",
+         {": a lock in SubScene0 needs the key \"oil\", which doesn't lie there.",
+          ": no lock in SubScene1 needs the key \"oil\"."}},
+    };
+    for (const Case& c : cases)
+    {
+        sceneSet("quay", std::string("Background.png,0,0\n") + c.mObjects);
+        linesTake();
+        sceneOpen("quay");
+        std::vector<std::string> faults;
+        for (const std::string& line : linesTake())
+            if (line.starts_with("scenes/quay/coords.txt"))
+                faults.push_back(line.substr(std::string("scenes/quay/coords.txt").size()));
+        EXPECT_EQ(faults, c.mFaults) << c.mWhat;
+        levelEnd();
     }
 }
 

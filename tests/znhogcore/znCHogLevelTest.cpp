@@ -104,6 +104,16 @@ TEST_F(znCHogLevelTest, countsAsWonWhenTheProgramEndsAtTheRoundScore)
     EXPECT_NE(userGet("LevDat:quay").find(states), std::string::npos);
 }
 
+TEST_F(znCHogLevelTest, staysTheOneToGoOnWithIfNoScreenFollows)
+{
+    mPlatform.mFiles.fileSet("gui/score.txt", ROUND_SCORE);
+    sceneSet("quay", "Background.png,0,0\n", "rewardLayoutFile = \"gui/score.txt\",\r\n");
+    sceneOpen("quay");
+    send(znCHogMessageDispatcher::LEVEL_COMPLETE);
+    level().levelStateStore();
+    EXPECT_EQ(userGet("CurrLev"), "quay");
+}
+
 TEST_F(znCHogLevelTest, hasItsOwnGuiOrNone)
 {
     mPlatform.mFiles.fileSet("gui/own.txt", "znCSpriteComponent {\n name = ownGui\n}\n");

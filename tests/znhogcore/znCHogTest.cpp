@@ -62,6 +62,13 @@ bool znCHogTestEar::messageProcess(const znCUniqueId& pType, void* pData)
 
 void znCHogTest::SetUp()
 {
+    imageSet("particles/p.png", 8, 8);
+    for (const char* number : {"1", "2", "3"})
+        mPlatform.mFiles.fileSet(std::string("gui/welldone/welldone") + number + ".txt",
+                                 "znCSpriteComponent { name = wellDone }\n");
+    for (const char* trail : {"ppicklistcollecttrail", "pscorecollecttrail"})
+        mPlatform.mFiles.fileSet(std::string("particles/") + trail + ".txt",
+                                 "imageFileName = particles/p.png ; maxParticles = 1 ; emitSpeed = 1 ;");
     programStart();
 }
 
@@ -221,8 +228,23 @@ void znCHogTest::logRead()
         if (kind == std::string::npos || message == std::string::npos ||
             line.find("ASSERT failure (") != std::string::npos)
             continue;
-        (line.compare(kind, 6, "ERROR(") == 0 ? mErrors : mLines).push_back(line.substr(message + 2));
+        lineKeep(line.compare(kind, 6, "ERROR(") == 0, line.substr(message + 2));
     }
+}
+
+void znCHogTest::lineKeep(bool pError, const std::string& pText)
+{
+    const std::string unlisted = "Failed to find an entry for ";
+    if (pError && pText.starts_with(unlisted))
+        mUnlisted.push_back(pText.substr(unlisted.size(), pText.size() - unlisted.size() - 1));
+    else
+        (pError ? mErrors : mLines).push_back(pText);
+}
+
+std::vector<std::string> znCHogTest::unlistedTake()
+{
+    logRead();
+    return std::exchange(mUnlisted, {});
 }
 
 std::vector<std::string> znCHogTest::errorsTake()

@@ -68,6 +68,9 @@ protected:
 
     // The messages of the assertions that failed since the last call.
     std::vector<std::string> errorsTake();
+    // The display texts of things that were found and stood on no list, since the last call. Scenes without lists have
+    // them, so they are no faults here.
+    std::vector<std::string> unlistedTake();
     // The messages of all lines since the last call that are no assertion's.
     std::vector<std::string> linesTake();
 
@@ -77,8 +80,10 @@ protected:
 
 private:
     void logRead();
+    void lineKeep(bool pError, const std::string& pText);
 
     std::vector<std::string> mErrors;
+    std::vector<std::string> mUnlisted;
     std::vector<std::string> mLines;
 };
 

@@ -88,7 +88,7 @@ TEST_F(znCLockComponentTest, completesItsTask)
     activate("TSK-light");
     activate("TSK-dark");
     drag(-200, 0, 200, 0);
-    frame(SHOW_FRAMES);
+    frame(2 * SHOW_FRAMES);                                           // of the lock, then of the task
     EXPECT_EQ(mEar.take(), "CollectableEntityCollected TSK-light; "); // stands in for the lock
     EXPECT_EQ(stateGet("PRE-oil-light+lamp.png"), COLLECTED);
     EXPECT_EQ(stateGet("TSK-light"), COLLECTED);

@@ -78,6 +78,19 @@ TEST_F(znICollectableComponentTest, isFoundByATapThatStartsAndEndsOnIt)
     }
 }
 
+TEST_F(znICollectableComponentTest, isFoundAlsoBesideOneOfItsName)
+{
+    sceneSet("quay", "Background.png,0,0\nHOT-gull.png,0,0\nHOT-gull.png,200,0\n");
+    open();
+    tap(0, 0);
+    frame(SHOW_FRAMES);
+    EXPECT_EQ(stateGet("HOT-gull.png"), COLLECTED);
+    EXPECT_EQ(stateGet("HOT-gull.png#2"), ACTIVE);
+    tap(200, 0);
+    frame(SHOW_FRAMES);
+    EXPECT_EQ(stateGet("HOT-gull.png#2"), COLLECTED);
+}
+
 TEST_F(znICollectableComponentTest, waitsUntilItIsActivated)
 {
     open();
@@ -123,6 +136,9 @@ TEST_F(znICollectableComponentTest, letsGoOfAPressWhenItIsReset)
 
 TEST_F(znICollectableComponentTest, endsWithTheLevel)
 {
+    // The score holds the level back.
+    mPlatform.mFiles.fileSet("gui/score.txt", "znCSpriteComponent { name = roundScoreGui }\n");
+    mPlatform.mFiles.fileSet("scenes/quay/quay.txt", "rewardLayoutFile = \"gui/score.txt\",\r\n");
     open();
     tap(200, 0);
     EXPECT_EQ(stateGet("HOT-gull.png"), COLLECTING);
@@ -211,17 +227,17 @@ TEST_F(znICollectableComponentTest, leavesAMarkerAndParticlesBehind)
 TEST_F(znICollectableComponentTest, saysWhenItIsTriggeredOutOfTurn)
 {
     open();
-    collectable("TSK-light").collectionProcessTrigger(); // goes on all the same
-    EXPECT_EQ(stateGet("TSK-light"), COLLECTED);         // has nothing to show
-    EXPECT_EQ(mEar.take(), "CollectableEntityCollected TSK-light; ");
-    collectable("TSK-light").collectionProcessTrigger();
-    std::string stray = "TSK-light";
-    znCHogMessageDispatcher::instanceGet()->messageSend(znCHogMessageDispatcher::COLLECTION_EFFECT_COMPLETE, &stray);
+    collectable("BNSL-can.png").collectionProcessTrigger(); // goes on all the same
+    EXPECT_EQ(stateGet("BNSL-can.png"), COLLECTING);
+    collectable("BNSL-can.png").collectionProcessTrigger();
+    frame(SHOW_FRAMES); // the other show's report is a stray
+    EXPECT_EQ(stateGet("BNSL-can.png"), COLLECTED);
+    EXPECT_EQ(mEar.take(), "CollectableEntityCollected BNSL-can.png; ");
     EXPECT_EQ(errorsTake(),
               (std::vector<std::string>{"This entity has not been activated for collection.",
-                                        "Collection process already triggered on this entity (TSK-light).",
-                                        "Collection process already triggered on this entity (TSK-light).",
-                                        "Not expecting a collection effect complete message (TSK-light)."}));
+                                        "Collection process already triggered on this entity (BNSL-can.png).",
+                                        "Collection process already triggered on this entity (BNSL-can.png).",
+                                        "Not expecting a collection effect complete message (BNSL-can.png)."}));
 }
 
 TEST_F(znICollectableComponentTest, isRestoredAsItWas)

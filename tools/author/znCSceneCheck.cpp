@@ -135,7 +135,7 @@ void znCSceneCheck::locksCheck()
     const auto keys = mLevel->entitiesWithKindGet<znCDraggableKeyComponent>();
     std::set<const znCEntity*> fitting;
     for (const znCEntity* lock : locks)
-        for (const std::string& needed : lock->componentFind<znCLockComponent>()->keyNamesGet())
+        for (const std::string& needed : lock->componentFind<znCLockComponent>()->keysGet())
         {
             const auto key = std::find_if(keys.begin(), keys.end(),
                                           [&needed](const znCEntity* pKey)

@@ -27,6 +27,8 @@ public:
     s32 heightGet() const { return mSprite.heightGet(); }
     void colourSet(const znCColour& pColour) { mSprite.colourSet(pColour); }
     void alphaModeSet(u32 pMode) { mSprite.alphaModeSet(pMode); }
+    // For the entity, which draws and moves it without a detour over this component where nothing else draws.
+    znCSprite& spriteGet() { return mSprite; }
 
     // Whether a point in device pixels hits the sprite; never while the entity or a node above it is inactive.
     bool hitTest(const znPoint& pWorld, bool pExpectHitMap);

@@ -2,7 +2,13 @@
 
 #include "znappcore/src/znCEntity.h"
 
+#include <algorithm>
 #include <cmath>
+
+namespace
+{
+constexpr float PLACE_LIMIT = 1073741824.0f; // 2^30; data can put things at the ends of the integers
+} // namespace
 
 void znITrailComponent::trailInitialise(const znPoint& pStart, const znPoint& pEnd, s32 pDurationMs, bool pDestroyAtEnd)
 {
@@ -24,8 +30,8 @@ void znITrailComponent::update(s32 pDeltaMs)
 
 znPointF znITrailComponent::liftedMidpointGet(const znPoint& pFrom, const znPoint& pTo)
 {
-    const float x = static_cast<float>(pTo.mX - pFrom.mX);
-    const float y = static_cast<float>(pTo.mY - pFrom.mY);
+    const float x = static_cast<float>(pTo.mX) - static_cast<float>(pFrom.mX);
+    const float y = static_cast<float>(pTo.mY) - static_cast<float>(pFrom.mY);
     const znPointF middle = {static_cast<float>(pFrom.mX) + x * 0.5f, static_cast<float>(pFrom.mY) + y * 0.5f};
     const float distance = std::hypot(x, y);
     if (distance == 0.0f)
@@ -36,5 +42,9 @@ znPointF znITrailComponent::liftedMidpointGet(const znPoint& pFrom, const znPoin
 
 void znITrailComponent::entityPlace(const znPointF& pPos)
 {
-    mEntity->posSet(znPoint(static_cast<s32>(pPos.mX), static_cast<s32>(pPos.mY)));
+    const auto whole = [](float pValue)
+    {
+        return static_cast<s32>(std::clamp(pValue, -PLACE_LIMIT, PLACE_LIMIT));
+    };
+    mEntity->posSet(znPoint(whole(pPos.mX), whole(pPos.mY)));
 }

@@ -5,6 +5,7 @@
 #include "znappcore/components/gui/elements/znCCheckBoxComponent.h"
 #include "znappcore/components/gui/elements/znCCheckBoxGroupComponent.h"
 #include "znappcore/components/gui/elements/znCCommodityButtonComponent.h"
+#include "znappcore/components/gui/elements/znCKeyFocusComponent.h"
 #include "znappcore/components/gui/elements/znCSliderComponent.h"
 #include "znappcore/components/gui/znCConfirmBoxGui.h"
 #include "znappcore/components/gui/znCMessageBoxGui.h"
@@ -82,6 +83,7 @@ void znCComponentFactory::componentsRegister()
     componentRegister<znCModalGuiComponent>();
     componentRegister<znCSliderComponent>();
     componentRegister<znCTextEntryComponent>();
+    componentRegister<znCKeyFocusComponent>();
 }
 
 void znCComponentFactory::componentRegister(const znCUniqueId& pType, Creator pCreator)

@@ -5,12 +5,12 @@
 // the base's and adds its types, and makes that one the instance.
 
 #include "znappcore/znCUniqueId.h"
+#include "znappcore/znIComponent.h"
 
 #include <map>
 #include <memory>
 
 class znCEntity;
-class znIComponent;
 
 class znCComponentFactory
 {
@@ -48,7 +48,9 @@ private:
     template <class T>
     static znIComponent* creator(znCEntity* pEntity)
     {
-        return new T(pEntity); // deleted by the entity
+        T* component = new T(pEntity); // deleted by the entity
+        component->eventsSet(znIComponent::eventsOf<T>());
+        return component;
     }
 
     std::map<u32, Creator> mCreators;

@@ -1,10 +1,12 @@
 #include "znappcore/src/znCEntity.h"
 
+#include "znappcore/components/znCSpriteComponent.h"
 #include "znappcore/src/znCComponentFactory.h"
 #include "znappcore/znIMessageListener.h"
 #include "zncore/debug/znIDebug.h"
 
 #include <algorithm>
+#include <typeinfo>
 
 znCEntity::znCEntity(const std::string& pName) : znINode(pName) {}
 
@@ -27,6 +29,34 @@ void znCEntity::componentDelete(std::unique_ptr<znIComponent> pComponent)
     if (auto* listener = dynamic_cast<znIMessageListener*>(pComponent.get()))
         listener->messagesDeregister();
     std::erase_if(mComponentsMap, [&](const auto& pEntry) { return pEntry.second == pComponent.get(); });
+    stepsReview();
+}
+
+// Which steps of the walks this node can be passed over in. A derived class may override them: it is always called.
+void znCEntity::stepsReview()
+{
+    if (typeid(*this) != typeid(znCEntity))
+        return stepsChangeMark();
+    mUpdates = !mPendingComponents.empty() || eventHeard(znIComponent::EVENT_UPDATE);
+    mRenders = eventHeard(znIComponent::EVENT_RENDER);
+    mAppliesMatrix = eventHeard(znIComponent::EVENT_MATRIX);
+    const auto drawing = [](const auto& pComponent)
+    {
+        return pComponent->eventHeard(znIComponent::EVENT_RENDER) || pComponent->eventHeard(znIComponent::EVENT_MATRIX);
+    };
+    const auto first = std::find_if(mComponentsVector.begin(), mComponentsVector.end(), drawing);
+    const bool alone = first != mComponentsVector.end() && std::none_of(first + 1, mComponentsVector.end(), drawing);
+    znIComponent* only = alone ? first->get() : nullptr;
+    mSprite = only != nullptr && typeid(*only) == typeid(znCSpriteComponent)
+                  ? &static_cast<znCSpriteComponent&>(*only).spriteGet()
+                  : nullptr;
+    stepsChangeMark();
+}
+
+bool znCEntity::eventHeard(u8 pEvent) const
+{
+    return std::any_of(mComponentsVector.begin(), mComponentsVector.end(),
+                       [pEvent](const auto& pComponent) { return pComponent->eventHeard(pEvent); });
 }
 
 // Runs pEvent on each component. By place: an event may add and remove components; one within another leaves the
@@ -77,7 +107,7 @@ void znCEntity::mySave(std::string& pOut)
 
 void znCEntity::myLoad(std::string& pIn)
 {
-    mActive = boolLoad(pIn);
+    activeSet(boolLoad(pIn));
     for (std::size_t i = 0; i < mComponentsVector.size(); ++i)
         mComponentsVector[i]->myLoad(pIn);
 }
@@ -99,6 +129,7 @@ void znCEntity::componentEnter(const znCUniqueId& pType, std::unique_ptr<znIComp
 {
     mComponentsMap.emplace(pType.idGet(), pComponent.get());
     mComponentsVector.push_back(std::move(pComponent));
+    stepsReview();
 }
 
 znIComponent* znCEntity::componentAdd(const znCUniqueId& pType)
@@ -112,7 +143,10 @@ znIComponent* znCEntity::componentAdd(const znCUniqueId& pType)
     if (component == nullptr)
         return nullptr;
     if (mIterating)
+    {
         mPendingComponents.emplace_back(std::move(component), pType);
+        stepsReview();
+    }
     else
         componentEnter(pType, std::move(component));
     return added;

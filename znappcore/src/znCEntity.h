@@ -72,6 +72,8 @@ private:
     void pendingComponentsJoin();
     void componentEnter(const znCUniqueId& pType, std::unique_ptr<znIComponent> pComponent);
     void componentDelete(std::unique_ptr<znIComponent> pComponent);
+    void stepsReview();
+    bool eventHeard(u8 pEvent) const;
     template <class Event>
     void forward(Event pEvent);
 

@@ -27,6 +27,9 @@ public:
     // Payload: std::string, the name of the button's entity.
     static constexpr znCUniqueId TUTORIAL_BUTTON_PRESSED{"tutorialButtonPressed"};
 
+    // Payload: s32, the index of a player who was chosen from the list.
+    static constexpr znCUniqueId PLAYER_SLOT_SELECTED{"PlayerSlotSelected"};
+
     // A second call logs "Already created znCGuiMessageDispatcher.\n" and starts anew.
     static void create();
     // Without an instance both log "Not created.\n"; instanceGet answers null then.

@@ -1,5 +1,6 @@
 #include "znappcore/src/znCProfileManager.h"
 
+#include "media/znNFonts.h"
 #include "znappcore/src/znCGlobalSavedData.h"
 #include "znappcore/src/znCGuiMessageDispatcher.h"
 #include "znappcore/src/znCSoftwareCursor.h"
@@ -225,9 +226,16 @@ void znCProfileManager::settingsApply()
     audio->effectsVolumeSet(user().effectsVolumeGet());
     audio->masterVolumeSet(user().muteAllGet() ? 0.0f : 1.0f);
     znCSoftwareCursor::enabledSet(user().customCursorsGet());
+    textSizeApply(user().textSizeGet());
     const bool fullScreen = user().fullScreenGet();
     if (znIDisplay::existsGet() && znIDisplay::instanceGet()->isFullScreenGet() != fullScreen)
         znIDisplay::instanceGet()->screenModeSet(fullScreen);
+}
+
+void znCProfileManager::textSizeApply(s32 pSize)
+{
+    constexpr float STEP = 0.2f;
+    znNFonts::textScaleSet(1.0f + STEP * static_cast<float>(pSize));
 }
 
 std::string znCProfileManager::fileNameFreeGet() const

@@ -43,6 +43,8 @@ public:
     void changesSave();
     // Applies the user table's settings to sound, cursor and display.
     void settingsApply();
+    // Has letters shown at one of the text sizes of znCUserSavedData.
+    static void textSizeApply(s32 pSize);
 
 private:
     znCProfileManager();

@@ -8,7 +8,9 @@ void znCSprite::brushSet(const znCBrushPtr& pBrush)
     if (pBrush != nullptr)
         mRenderData.brushApply(*pBrush);
     else
-        mRenderData.materialGet() = znCMaterial();
+        mRenderData.materialSet(znCMaterial());
+    if ((pBrush == nullptr) != (mBrush == nullptr))
+        znNRenderChanges::structureMark();
     mBrush = pBrush;
     mWidth = pBrush != nullptr ? pBrush->widthGet() : 0;
     mHeight = pBrush != nullptr ? pBrush->heightGet() : 0;
@@ -38,23 +40,6 @@ void znCSprite::sizeApply()
     cornersTransform();
 }
 
-void znCSprite::matrixApply(const znAffineMtx2d& pMatrix)
-{
-    mMatrix = pMatrix;
-    cornersTransform();
-}
-
-void znCSprite::cornersTransform()
-{
-    for (s32 i = 0; i < 4; ++i)
-    {
-        const znPointF& corner = mLocalCorners[i];
-        mWorldCorners[i] = {mMatrix.m00 * corner.mX + mMatrix.m01 * corner.mY + mMatrix.m02,
-                            mMatrix.m10 * corner.mX + mMatrix.m11 * corner.mY + mMatrix.m12};
-    }
-    mRenderData.verticesSet(mWorldCorners);
-}
-
 void znCSprite::colourSet(const znCColour& pColour)
 {
     mRenderData.colourSet(pColour);
@@ -62,7 +47,7 @@ void znCSprite::colourSet(const znCColour& pColour)
 
 void znCSprite::alphaModeSet(u32 pMode)
 {
-    mRenderData.materialGet().alphaModeSet(pMode);
+    mRenderData.alphaModeSet(pMode);
 }
 
 void znCSprite::render()

@@ -32,6 +32,8 @@ public:
     void colourSet(const znCColour& pColour);
     void alphaModeSet(u32 pMode);
     void render();
+    // What render() hands to the renderer; null if that is nothing.
+    znISpriteRenderData* renderDataGet() { return mBrush != nullptr ? &mRenderData : nullptr; }
 
     // pLocal counts from the centre. The left and top edges belong to the sprite, the right and bottom ones don't. A
     // brush with a hit map decides by pixel; without one the rectangle decides, and pExpectHitMap logs "Attempting a
@@ -41,14 +43,36 @@ public:
 private:
     void cornersTransform();
 
-    // What drawing a still sprite looks at comes first.
+    // What drawing a sprite looks at comes first. The corners in device pixels stand in the render data alone.
     znCBrushPtr mBrush;
     znCSpriteRenderData mRenderData;
-    znAffineMtx2d mMatrix;
     znPointF mLocalCorners[4] = {};
-    znPointF mWorldCorners[4] = {};
+    znAffineMtx2d mMatrix;
     s32 mWidth = 0;
     s32 mHeight = 0;
 };
+
+// In the header: a moving tree spends most of its time here.
+inline void znCSprite::matrixApply(const znAffineMtx2d& pMatrix)
+{
+    mMatrix = pMatrix;
+    cornersTransform();
+}
+
+inline void znCSprite::cornersTransform()
+{
+    const znPointF half = mLocalCorners[2]; // the other corners are its mirror images
+    const float alongX = mMatrix.m00 * half.mX;
+    const float alongY = mMatrix.m10 * half.mX;
+    const float acrossX = mMatrix.m01 * half.mY;
+    const float acrossY = mMatrix.m11 * half.mY;
+    const float x = mMatrix.m02;
+    const float y = mMatrix.m12;
+    znPointF* corners = mRenderData.verticesChange();
+    corners[0] = {x - (alongX + acrossX), y - (alongY + acrossY)};
+    corners[1] = {x - (alongX - acrossX), y - (alongY - acrossY)};
+    corners[2] = {x + (alongX + acrossX), y + (alongY + acrossY)};
+    corners[3] = {x + (alongX - acrossX), y + (alongY - acrossY)};
+}
 
 #endif

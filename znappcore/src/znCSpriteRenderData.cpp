@@ -17,11 +17,15 @@ void znCSpriteRenderData::uvsSet(float pU0, float pU1, float pV0, float pV1)
     mUvs[1] = {pU0, pV1};
     mUvs[2] = {pU1, pV1};
     mUvs[3] = {pU1, pV0};
+    znNRenderChanges::contentsMark();
 }
 
 void znCSpriteRenderData::colourSet(const znCColour& pColour)
 {
-    mColour = colourPack(pColour);
+    const u32 colour = colourPack(pColour);
+    if (colour != mColour)
+        znNRenderChanges::contentsMark();
+    mColour = colour;
 }
 
 u32 znCSpriteRenderData::colourPack(const znCColour& pColour)

@@ -10,7 +10,17 @@ class znCSpriteRenderData final : public znISpriteRenderData
 {
 public:
     // In the header, since a sprite sets them each time it moves.
-    void verticesSet(const znPointF pCorners[4]) override { std::memcpy(mVertices, pCorners, sizeof mVertices); }
+    void verticesSet(const znPointF pCorners[4]) override
+    {
+        std::memcpy(mVertices, pCorners, sizeof mVertices);
+        znNRenderChanges::contentsMark();
+    }
+    // For writing all four.
+    znPointF* verticesChange()
+    {
+        znNRenderChanges::contentsMark();
+        return mVertices;
+    }
     void uvsSet(float pU0, float pU1, float pV0, float pV1) override;
     void colourSet(const znCColour& pColour) override;
 

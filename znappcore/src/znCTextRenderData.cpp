@@ -24,6 +24,7 @@ bool pixelForPixelGet(const znAffineMtx2d& pMatrix)
 void znCTextRenderData::matrixApply(const znAffineMtx2d& pMatrix)
 {
     mMatrix = pMatrix;
+    znNRenderChanges::contentsMark();
     const bool snap = pixelForPixelGet(mMatrix);
     const float moveX = snap ? std::floor(mMatrix.m02 + 0.5f) : mMatrix.m02;
     const float moveY = snap ? std::floor(mMatrix.m12 + 0.5f) : mMatrix.m12;
@@ -41,7 +42,10 @@ s32 znCTextRenderData::textWidthGet() const
 
 void znCTextRenderData::colourSet(const znCColour& pColour)
 {
-    mColour = znCSpriteRenderData::colourPack(pColour);
+    const u32 colour = znCSpriteRenderData::colourPack(pColour);
+    if (colour != mColour)
+        znNRenderChanges::contentsMark();
+    mColour = colour;
 }
 
 const znCGlyphRun* znCTextRenderData::glyphRunGet(s32 pIndex) const
@@ -58,12 +62,15 @@ const znCGlyphRun* znCTextRenderData::glyphRunGet(s32 pIndex) const
 
 void znCTextRenderData::glyphsRefresh()
 {
+    if (mTextScale != znNFonts::textScaleGet())
+        layoutUpdate();
     if (mPrepared.refresh())
         verticesBuild();
 }
 
 void znCTextRenderData::layoutUpdate()
 {
+    mTextScale = znNFonts::textScaleGet();
     const znCGraphicsFont* font = mFont != nullptr ? static_cast<const znCFont*>(mFont)->graphicsFontGet() : nullptr;
     if (font == nullptr)
         return;

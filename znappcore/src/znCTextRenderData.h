@@ -23,7 +23,7 @@ public:
     void colourSet(const znCColour& pColour) override;
     const znCGlyphRun* glyphRunGet(s32 pIndex) const override;
 
-    // Before each painting: takes over what znNFonts::frameBegin changed. No layout.
+    // Before each painting: takes over what znNFonts::frameBegin changed, without a layout, and a new text scale.
     void glyphsRefresh();
 
     s32 glyphCountGet() const { return mGlyphCount; }
@@ -39,6 +39,7 @@ private:
     znAffineMtx2d mMatrix;
     std::vector<znPointF> mLocalVertices; // 4 a glyph; they only grow, mGlyphCount counts
     std::vector<znPointF> mWorldVertices;
+    float mTextScale = 1.0f; // of the last layout
     s32 mAlignH = ALIGN_CENTRE;
     s32 mAlignV = ALIGN_MIDDLE;
     u32 mColour = 0xFFFFFFFFu;

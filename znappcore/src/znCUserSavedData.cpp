@@ -4,6 +4,8 @@
 
 #include <memory>
 
+#include <algorithm>
+
 namespace
 {
 // The settings of a new player.
@@ -79,4 +81,9 @@ bool znCUserSavedData::fullScreenGet() const
 bool znCUserSavedData::customCursorsGet() const
 {
     return boolGet(CUSTOM_CURSORS, CURSORS);
+}
+
+s32 znCUserSavedData::textSizeGet() const
+{
+    return std::clamp(s32Get(TEXT_SIZE), 0, TEXT_SIZE_MAX);
 }

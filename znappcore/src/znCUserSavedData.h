@@ -16,6 +16,10 @@ public:
     static constexpr const char* CHEAT = "cheat";                  // bool; false
     static constexpr const char* CURRENCY = "currency";            // s32; 0
 
+    // A choice that no new table holds: s32, 0 (letters as they are drawn) to TEXT_SIZE_MAX (the largest).
+    static constexpr const char* TEXT_SIZE = "TextSize";
+    static constexpr s32 TEXT_SIZE_MAX = 2;
+
     // Makes the one instance with its defaults. A second call logs "Already created znCUserSavedData.\n" and starts
     // anew.
     static void create();
@@ -29,6 +33,7 @@ public:
     bool muteAllGet() const;
     bool fullScreenGet() const;
     bool customCursorsGet() const;
+    s32 textSizeGet() const; // limited to its range
 
     void defaultsSet() override;
     virtual void profileInitialise() {} // a new player begins with this table

@@ -5,6 +5,8 @@
 #include "znhogcore/components/znCBonusSilhouetteComponent.h"
 #include "znhogcore/src/znCHogMessageDispatcher.h"
 
+#include <algorithm>
+
 namespace
 {
 constexpr znCUniqueId MESSAGES[] = {
@@ -12,6 +14,7 @@ constexpr znCUniqueId MESSAGES[] = {
     znCHogMessageDispatcher::CONTINUE_GAME, // found things outlast both, so there is nothing to do
     znCHogMessageDispatcher::REPLAY_LEVEL,
 };
+constexpr s32 THINGS_MAX = 1000000; // of a save; a damaged one may say anything
 } // namespace
 
 znCBonusEntityCountComponent::znCBonusEntityCountComponent(znCEntity* pEntity)
@@ -46,9 +49,14 @@ bool znCBonusEntityCountComponent::messageProcess(const znCUniqueId& pType, void
     return false;
 }
 
+std::string znCBonusEntityCountComponent::markerGet()
+{
+    return std::to_string(TYPE.idGet());
+}
+
 void znCBonusEntityCountComponent::mySave(std::string& pOut)
 {
-    znINode::strSave(pOut, std::to_string(TYPE.idGet()));
+    znINode::strSave(pOut, markerGet());
     for (const s32 value : {mBonusCollected, mBonusTotal, mSilhouetteCollected, mSilhouetteTotal})
         znINode::s32Save(pOut, value);
 }
@@ -57,5 +65,5 @@ void znCBonusEntityCountComponent::myLoad(std::string& pIn)
 {
     znINode::strLoad(pIn);
     for (s32* value : {&mBonusCollected, &mBonusTotal, &mSilhouetteCollected, &mSilhouetteTotal})
-        *value = znINode::s32Load(pIn);
+        *value = std::clamp(znINode::s32Load(pIn), 0, THINGS_MAX);
 }

@@ -8,10 +8,15 @@
 
 #include "znappcore/znIMessageListenerComponent.h"
 
+#include <string>
+
 class znCBonusEntityCountComponent : public znIMessageListenerComponent
 {
 public:
     static constexpr znCUniqueId TYPE{"znCBonusEntityCountComponent"};
+
+    // What begins this component's saved values, by which the map finds them in a level's saved text.
+    static std::string markerGet();
 
     explicit znCBonusEntityCountComponent(znCEntity* pEntity); // the scene stands: it is counted here
 

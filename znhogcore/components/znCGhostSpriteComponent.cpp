@@ -15,8 +15,12 @@ constexpr const char* PULSE[] = {"00b00080", "00800080", "00600080", "00800080",
 
 znCGhostSpriteComponent::znCGhostSpriteComponent(znCEntity* pEntity) : znIMessageListenerComponent(pEntity, PRIORITY)
 {
+    s32 step = 0; // behind the colour before
     for (const char* colour : PULSE)
-        mColourGraph.dataAdd(colour == PULSE[0] ? 0 : STEP_MS, znCColour(colour));
+    {
+        mColourGraph.dataAdd(step, znCColour(colour));
+        step = STEP_MS;
+    }
 }
 
 void znCGhostSpriteComponent::messagesRegister()

@@ -9,9 +9,12 @@
 #include "zncore/debug/znIDebug.h"
 #include "zncore/znCResourceName.h"
 #include "zncore/znIFile.h"
+#include "zncore/znNByteOrderMark.h"
 #include "zncore/znNCoreUtils.h"
 #include "znhogcore/components/znCBonusComponent.h"
 #include "znhogcore/components/znCBonusSilhouetteComponent.h"
+#include "znhogcore/components/znCDraggableKeyComponent.h"
+#include "znhogcore/components/znCLockComponent.h"
 #include "znhogcore/components/znCNameComponent.h"
 #include "znhogcore/components/znCSubSceneComponent.h"
 #include "znhogcore/components/znCSubSceneNavigateComponent.h"
@@ -22,6 +25,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <map>
+#include <set>
 
 namespace
 {
@@ -36,6 +41,7 @@ constexpr char SUB_SCENE_NAME[] = "SubScene"; // and the index
 constexpr char POST_COLLECTION_VISIBLE[] = "postCollectionVisible";
 constexpr char POST_COLLECTION_MARKER[] = "postCollectionVisibleMarker";
 constexpr char DIFFERENCE_FOUND_MARKER[] = "diffFoundMarker";
+constexpr char TWIN_MARK = '#'; // and a number
 constexpr std::string_view BLANKS = " \t\r";
 
 // An animation that is missing just shows nothing, which helps no author.
@@ -108,6 +114,11 @@ bool nameContains(const std::string& pName, std::string_view pMark)
     return pName.find(pMark) != std::string::npos;
 }
 
+bool isKey(const znCEntity& pEntity)
+{
+    return pEntity.componentGet(znCDraggableKeyComponent::TYPE) != nullptr;
+}
+
 bool isBackground(const std::string& pName)
 {
     return nameContains(pName, BACKGROUND_MARK);
@@ -171,8 +182,10 @@ void znCHogLevelLoaderComponent::load(const std::string&, const std::string& pFo
     texturePagesLoad(pFolder);
     std::vector<znCEntity*> entities = entitiesCreateFromCoordsFile(pFolder);
     imagesSet(entities, pFolder);
+    twinsRename(entities, pFolder);
     entitesAddToSubScenes(entities);
     doorsCheck(entities);
+    locksCheck(entities, pFolder);
     touchHitSpritesStore(entities);
     postCollectionViewSet(entities);
     particlesStart(entities);
@@ -194,7 +207,7 @@ std::vector<znCEntity*> znCHogLevelLoaderComponent::entitiesCreateFromCoordsFile
     const std::string file = pFolder + COORDS_FILE;
     const std::string text = znNCoreUtils::strGetFromFile(dataNameGet(file));
     std::vector<znCEntity*> entities;
-    std::string_view rest = text;
+    std::string_view rest = znNByteOrderMark::cut(text);
     for (s32 line = 1; !rest.empty(); ++line)
     {
         if (entities.size() >= ENTITIES_MAX)
@@ -282,6 +295,49 @@ void znCHogLevelLoaderComponent::doorsCheck(const std::vector<znCEntity*>& pEnti
             ZN_LOG("%s stands in close-up %d, which lies over close-up %d: a door leads on to a later close-up only.\n",
                    entity->nameGet().c_str(), index, target);
     }
+}
+
+// Finds report, keys are dropped and states are stored under the node's name: of two things with one name the wrong one
+// would answer.
+void znCHogLevelLoaderComponent::twinsRename(const std::vector<znCEntity*>& pEntities, const std::string& pFolder)
+{
+    std::map<std::string, s32> counts; // of the entities by name
+    for (znCEntity* entity : pEntities)
+    {
+        if (!isKey(*entity) && entity->componentFind<znICollectableComponent>() == nullptr)
+            continue;
+        const std::string name = entity->nameGet();
+        const s32 count = ++counts[name];
+        if (count == 1)
+            continue;
+        ZN_LOG("%s%s names %s more than once: only a tail \"-m1\" to \"-m9\" tells two placements apart.\n",
+               pFolder.c_str(), COORDS_FILE, name.c_str());
+        entity->nameSet(name + TWIN_MARK + std::to_string(count));
+    }
+}
+
+// A key is dropped in the sub-scene that it lies in, so a lock elsewhere never gets it.
+void znCHogLevelLoaderComponent::locksCheck(const std::vector<znCEntity*>& pEntities, const std::string& pFolder)
+{
+    using KeysByPlace = std::set<std::pair<std::string, std::string>>; // name of the sub-scene, key
+    KeysByPlace lying;
+    KeysByPlace needed;
+    for (const znCEntity* entity : pEntities)
+    {
+        if (isKey(*entity))
+            lying.emplace(entity->parentGet()->nameGet(), znCNameComponent::get(entity)->keyGet());
+        if (const auto* lock = entity->componentGet<znCLockComponent>())
+            for (const std::string& key : lock->keysGet())
+                needed.emplace(entity->parentGet()->nameGet(), key);
+    }
+    for (const auto& [subScene, key] : needed)
+        if (!lying.contains({subScene, key}))
+            ZN_LOG("%s%s: a lock in %s needs the key \"%s\", which doesn't lie there.\n", pFolder.c_str(), COORDS_FILE,
+                   subScene.c_str(), key.c_str());
+    for (const auto& [subScene, key] : lying)
+        if (!needed.contains({subScene, key}))
+            ZN_LOG("%s%s: no lock in %s needs the key \"%s\".\n", pFolder.c_str(), COORDS_FILE, subScene.c_str(),
+                   key.c_str());
 }
 
 // A door has its own.

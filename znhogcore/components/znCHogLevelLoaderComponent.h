@@ -7,7 +7,8 @@
 // "coords.txt" of the folder lists the entities in drawing order, one a line: file name, x, y, separated by commas. x
 // and y are scene pixels of the entity's centre. A line whose name contains "Background" starts a sub-scene, to which
 // the lines up to the next background belong; the first line must be one. A line that can't be read is left out with
-// one line in the log that names the file and the line; blank lines are no fault.
+// one line in the log that names the file and the line; blank lines are no fault. Of things to find and keys that bear
+// one and the same name all but the first are logged, and are called by that name with "#2", "#3" ... behind it.
 
 #include "znappcore/znIComponent.h"
 
@@ -38,7 +39,9 @@ public:
 private:
     void texturePagesLoad(const std::string& pFolder);
     void imagesSet(const std::vector<znCEntity*>& pEntities, const std::string& pFolder);
+    void twinsRename(const std::vector<znCEntity*>& pEntities, const std::string& pFolder);
     void doorsCheck(const std::vector<znCEntity*>& pEntities);
+    void locksCheck(const std::vector<znCEntity*>& pEntities, const std::string& pFolder);
     void touchHitSpritesStore(const std::vector<znCEntity*>& pEntities);
     void postCollectionViewSet(const std::vector<znCEntity*>& pEntities);
     void particlesStart(const std::vector<znCEntity*>& pEntities);

@@ -105,17 +105,17 @@ znCLockComponent::Key* znCLockComponent::neededKeyFind(const znCEntity* pKeyEnti
     return key != mKeys.end() ? &*key : nullptr;
 }
 
+std::vector<std::string> znCLockComponent::keysGet() const
+{
+    std::vector<std::string> keys;
+    for (const Key& key : mKeys)
+        keys.push_back(key.mKey);
+    return keys;
+}
+
 bool znCLockComponent::allKeysUsedGet() const
 {
     return std::all_of(mKeys.begin(), mKeys.end(), [](const Key& pKey) { return pKey.mUsed; });
-}
-
-std::vector<std::string> znCLockComponent::keyNamesGet() const
-{
-    std::vector<std::string> names;
-    for (const Key& key : mKeys)
-        names.push_back(key.mKey);
-    return names;
 }
 
 void znCLockComponent::forceComplete()

@@ -1,11 +1,19 @@
 #include "znhogcore/src/znCHogComponentFactory.h"
 
+#include "znhogcore/components/gui/znCChoosePlayerGui.h"
 #include "znhogcore/components/gui/znCDropOffPickListEntryGui.h"
+#include "znhogcore/components/gui/znCEndMenuGui.h"
 #include "znhogcore/components/gui/znCGameGui.h"
+#include "znhogcore/components/gui/znCHighScoresGui.h"
 #include "znhogcore/components/gui/znCMainMenuGui.h"
+#include "znhogcore/components/gui/znCMapGui.h"
+#include "znhogcore/components/gui/znCMapPopUpFVGui.h"
+#include "znhogcore/components/gui/znCMapPopUpGui.h"
 #include "znhogcore/components/gui/znCNewPlayerGui.h"
 #include "znhogcore/components/gui/znCOptionsGui.h"
+#include "znhogcore/components/gui/znCPauseMenuGui.h"
 #include "znhogcore/components/gui/znCPickListGui.h"
+#include "znhogcore/components/gui/znCPlayerSlotGui.h"
 #include "znhogcore/components/gui/znCRollOverSubSceneGui.h"
 #include "znhogcore/components/gui/znCRoundCongratulationsGui.h"
 #include "znhogcore/components/gui/znCRoundScoreGui.h"
@@ -47,15 +55,23 @@ void znCHogComponentFactory::create()
 void znCHogComponentFactory::componentsRegister()
 {
     znCComponentFactory::componentsRegister();
+    componentRegister<znCChoosePlayerGui>();
     componentRegister<znCDropOffPickListEntryGui>();
     componentRegister<znCGameGui>();
+    componentRegister<znCHighScoresGui>();
     componentRegister<znCMainMenuGui>();
     componentRegister<znCNewPlayerGui>();
     componentRegister<znCOptionsGui>();
+    componentRegister<znCPauseMenuGui>();
     componentRegister<znCPickListGui>();
+    componentRegister<znCPlayerSlotGui>();
     componentRegister<znCSilhouettePickListEntryGui>();
     componentRegister<znCSingleItemPickListEntryGui>();
     componentRegister<znCRoundScoreGui>();
+    componentRegister<znCMapGui>();
+    componentRegister<znCMapPopUpGui>();
+    componentRegister<znCMapPopUpFVGui>();
+    componentRegister<znCEndMenuGui>();
     componentRegister<znCRollOverSubSceneGui>();
     componentRegister<znCAnimCollectionEffectComponent>();
     componentRegister<znCBonusComponent>();

@@ -23,6 +23,8 @@
 #include "znhogcore/src/znCHogUserSavedData.h"
 #include "znhogcore/znIHogLevel.h"
 
+#include <utility>
+
 namespace
 {
 constexpr char GUI_FILE_MARK[] = ".txt";
@@ -147,40 +149,47 @@ void znCHogCoreMain::levelStart()
     znCParticleDataManager::instanceGet()->levelDataClear();
     znCAnimationDataManager::instanceGet()->levelDataClear();
     znIAudioManager::instanceGet()->effectsClear();
-    if (!screenExistsGet(mNextScreen))
-        missingScreenShow();
-    else if (guiFileNameGet(mNextScreen))
-        guiScreenOpen(mNextScreen);
-    else
-        levelOpen();
-    znCScreenFade::instanceGet()->fadeIn(SCREEN_FADE_MS);
-    mNextScreen.clear();
+    const std::string screen = std::exchange(mNextScreen, std::string());
+    if (!screenOpen(screen))
+        missingScreenShow(screen);
+    // One that is over as it opens has asked for the next one, and for the fade at whose end it goes.
+    if (mNextScreen.empty())
+        znCScreenFade::instanceGet()->fadeIn(SCREEN_FADE_MS);
 }
 
-void znCHogCoreMain::guiScreenOpen(const std::string& pFile)
+bool znCHogCoreMain::screenOpen(const std::string& pScreen)
+{
+    if (!screenExistsGet(pScreen))
+        return false;
+    return guiFileNameGet(pScreen) ? guiScreenOpen(pScreen) : levelOpen(pScreen);
+}
+
+bool znCHogCoreMain::guiScreenOpen(const std::string& pFile)
 {
     const znCResourceName file(pFile, znCResourceName::GAME_DATA);
-    if (znCEntity* gui = znIGuiComponent::guiCreateFromFile(file, nullptr, true))
+    znCEntity* gui = znIGuiComponent::guiCreateFromFile(file, nullptr, true);
+    if (gui != nullptr)
         appDisplayChildAdd(gui);
+    return gui != nullptr;
 }
 
-void znCHogCoreMain::levelOpen()
+bool znCHogCoreMain::levelOpen(const std::string& pName)
 {
-    znIHogLevel::create(mNextScreen);
+    znIHogLevel::create(pName);
     znIHogLevel* level = znIHogLevel::levelGet();
     if (level->sceneStandsGet())
-        return;
+        return true;
     level->destroy();
-    missingScreenShow();
+    return false;
 }
 
 // A player whose game is to go on there gets another choice than to try again for ever.
-void znCHogCoreMain::missingScreenShow()
+void znCHogCoreMain::missingScreenShow(const std::string& pScreen)
 {
-    ZN_LOG("The screen %s can't be opened: %s is missing or makes no scene.\n", mNextScreen.c_str(),
-           screenFileGet(mNextScreen).c_str());
+    ZN_LOG("The screen %s can't be opened: %s is missing or makes no scene.\n", pScreen.c_str(),
+           screenFileGet(pScreen).c_str());
     znCHogUserSavedData* user = znCHogUserSavedData::instanceGet();
-    if (user->currentLevelGet() == mNextScreen)
+    if (user->currentLevelGet() == pScreen)
         user->currentLevelSet("");
     guiScreenOpen(MAIN_MENU_FILE);
     if (znINode* menu = appDisplayChildFind(znCMainMenuGui::NAME))

@@ -8,8 +8,8 @@
 // in which neither the main menu nor a level stands any more. Whoever asks for a screen starts the fade at whose end
 // the present one removes itself.
 //
-// The player never stands before an empty screen: a screen whose files are missing gives a log line, and the main menu
-// opens with a message; the same menu follows a screen behind which none was asked for.
+// The player never stands before an empty screen: a screen whose files are missing or make nothing gives a log line, and the
+// main menu opens with a message; the same menu follows a screen behind which none was asked for.
 
 #include "znappcore/src/znCAppCoreMain.h"
 #include "znhogcore/src/znCProgressSaver.h"
@@ -56,9 +56,11 @@ protected:
 
 private:
     void mapRuleApply();
-    void guiScreenOpen(const std::string& pFile);
-    void levelOpen();
-    void missingScreenShow();
+    // False for a screen of which nothing stands.
+    bool screenOpen(const std::string& pScreen);
+    bool guiScreenOpen(const std::string& pFile);
+    bool levelOpen(const std::string& pName);
+    void missingScreenShow(const std::string& pScreen);
 
     znCProgressSaver mProgressSaver;
     std::string mNextScreen; // empty: none is pending

@@ -155,7 +155,9 @@ void znCHogLevel::shutDownStateFix()
         return;
     // As if the player had left by its continue button.
     levelReset();
-    znCHogCoreMain::instanceGet()->nextScreenAndCurrLevSet(nextLevelGet());
+    const std::string next = nextLevelGet();
+    if (!next.empty())
+        znCHogCoreMain::instanceGet()->nextScreenAndCurrLevSet(next);
 }
 
 void znCHogLevel::levelNext()

@@ -2,6 +2,7 @@
 
 #include "zncore/znCResourceName.h"
 #include "zncore/znIFile.h"
+#include "zncore/znNByteOrderMark.h"
 #include "zncore/znNCoreUtils.h"
 #include "zncore/znStr.h"
 
@@ -9,7 +10,6 @@
 
 namespace
 {
-constexpr std::string_view BYTE_ORDER_MARK = "\xef\xbb\xbf";
 constexpr std::size_t INDENT_LIMIT = 256; // characters that are looked at
 constexpr s32 TAB_WIDTH = 4;
 
@@ -76,9 +76,7 @@ znCGuiText::Result znCGuiText::fileInsert(const znCResourceName& pName)
         return Result::missing;
     std::string content;
     znNCoreUtils::fileRead(pName, static_cast<s32>(SIZE_LIMIT), content);
-    std::string_view whole = keep(std::move(content));
-    if (whole.starts_with(BYTE_ORDER_MARK))
-        whole.remove_prefix(BYTE_ORDER_MARK.size());
+    const std::string_view whole = znNByteOrderMark::cut(keep(std::move(content)));
     const std::string_view name = keep(std::string(pName.nameGet()));
     s32 depth = 0;
     tokensVisit(whole, whole,

@@ -3,6 +3,7 @@
 
 // How a GUI finds its widgets: by the names of their entities, which its file gives.
 
+#include "znappcore/components/znCTextSpriteComponent.h"
 #include "znappcore/src/znCEntity.h"
 #include "znappcore/znIComponent.h"
 
@@ -29,6 +30,13 @@ inline void activeSet(const znIComponent& pGui, const std::string& pName, bool p
 {
     if (znCEntity* entity = entityFind(pGui, pName))
         entity->activeSet(pActive);
+}
+
+// Gives a widget that has a text this one; one that the file left out is fine.
+inline void textSet(const znIComponent& pGui, const std::string& pName, const std::string& pText)
+{
+    if (znCEntity* entity = entityFind(pGui, pName))
+        znCTextSpriteComponent::textSet(entity, pText);
 }
 } // namespace znNGuiChildren
 

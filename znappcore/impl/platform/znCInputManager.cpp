@@ -5,11 +5,25 @@
 #include "zncore/znStr.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace
 {
 // Mouse buttons count as input points of their own, hence two of them.
 constexpr s32 INPUT_POINTS_OF_POINTER_TYPE[] = {2, 1, 10};
+
+constexpr std::pair<s32, s32> NAVIGATION_KEYS[] = {
+    {S3E_KEY_ESCAPE, znIInputManager::KEY_ESCAPE}, {S3E_KEY_ENTER, znIInputManager::KEY_ENTER},
+    {S3E_KEY_SPACE, znIInputManager::KEY_SPACE},   {S3E_KEY_TAB, znIInputManager::KEY_TAB},
+    {S3E_KEY_LEFT, znIInputManager::KEY_LEFT},     {S3E_KEY_RIGHT, znIInputManager::KEY_RIGHT},
+    {S3E_KEY_UP, znIInputManager::KEY_UP_ARROW},   {S3E_KEY_DOWN, znIInputManager::KEY_DOWN_ARROW},
+};
+
+bool keyDownGet(s32 pKey)
+{
+    return (s3eKeyboardGetState(pKey) & S3E_KEY_STATE_DOWN) != 0;
+}
 
 znCInputManager& managerGet(void* pUserData)
 {
@@ -103,13 +117,26 @@ s32 znCInputManager::charEventHandle(void* pSystemData, void* pUserData)
     return 0;
 }
 
-s32 znCInputManager::keyEventHandle(void* pSystemData, void*)
+s32 znCInputManager::keyEventHandle(void* pSystemData, void* pUserData)
 {
     const auto& event = *static_cast<s3eKeyboardEvent*>(pSystemData);
-    const bool altDown = (s3eKeyboardGetState(S3E_KEY_ALT) & S3E_KEY_STATE_DOWN) != 0;
-    if (event.mKey == S3E_KEY_ENTER && event.mPressed != 0 && altDown && znIDisplay::existsGet())
+    if (event.mPressed == 0)
+        return 0;
+    if (!keyDownGet(S3E_KEY_ALT))
+        managerGet(pUserData).navigationKeyNote(event.mKey);
+    else if (event.mKey == S3E_KEY_ENTER && znIDisplay::existsGet())
         znIDisplay::instanceGet()->fullScreenToggle();
     return 0;
+}
+
+void znCInputManager::navigationKeyNote(s32 pKey)
+{
+    if (pKey == S3E_KEY_TAB && keyDownGet(S3E_KEY_SHIFT))
+        mNavigationKeys.push_back(KEY_TAB_BACK);
+    else if (const auto* key = std::find_if(std::begin(NAVIGATION_KEYS), std::end(NAVIGATION_KEYS),
+                                            [pKey](const auto& pPair) { return pPair.first == pKey; });
+             key != std::end(NAVIGATION_KEYS))
+        mNavigationKeys.push_back(key->second);
 }
 
 void znCInputManager::pointStateSet(s32 pId, s32 pX, s32 pY, bool pDown)

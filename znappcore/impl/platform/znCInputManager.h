@@ -27,6 +27,7 @@ private:
 
     void pointStateSet(s32 pId, s32 pX, s32 pY, bool pDown);
     void pointPosSet(s32 pId, s32 pX, s32 pY);
+    void navigationKeyNote(s32 pKey);
 };
 
 #endif

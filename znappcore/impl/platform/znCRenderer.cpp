@@ -49,6 +49,7 @@ void znCRenderer::readCursorsReset()
 {
     mSpriteReadIndex = 0;
     mTextReadIndex = 0;
+    mStreamIndex = 0;
 }
 
 void znCRenderer::renderFlush()
@@ -67,48 +68,59 @@ void znCRenderer::spritesDraw(s32 pFirst, s32 pLast)
     {
         const std::size_t index = static_cast<std::size_t>(run);
         const s32 sprites = mMaterialSpriteCounts[index];
-        spriteStreamsWrite(run, sprites);
+        znCGraphicsVertex* vertices = streamsTake(sprites * CORNERS);
+        if (!mStreamsKept)
+            spriteStreamsWrite(vertices, sprites);
+        mVertexStreams[index] = &vertices->mPosition;
+        mUvStreams[index] = &vertices->mUv;
+        mColourStreams[index] = &vertices->mColour;
 
         const znITexture* texture = mMaterials[index]->textureGet();
         znCGraphicsMaterial material;
         material.mTexture = texture != nullptr ? texture->graphicsTextureGet() : nullptr;
         material.mBlend = mMaterials[index]->alphaModeGet();
         znNGraphics::materialSet(material);
-        znNGraphics::positionsSet(mVertexStreams[index]);
-        znNGraphics::uvsSet(mUvStreams[index]);
-        znNGraphics::coloursSet(mColourStreams[index]);
+        znNGraphics::verticesSet(vertices);
         znNGraphics::quadsDraw(sprites * CORNERS);
     }
 }
 
-void znCRenderer::spriteStreamsWrite(s32 pRun, s32 pSprites)
+// The streams of the next draw call: in an unchanged frame those that it had in the frame before.
+znCGraphicsVertex* znCRenderer::streamsTake(s32 pVertices)
 {
-    const std::size_t index = static_cast<std::size_t>(pRun);
-    znPointF* vertices = znNGraphics::frameArrayTake<znPointF>(pSprites * CORNERS);
-    znPointF* uvs = znNGraphics::frameArrayTake<znPointF>(pSprites * CORNERS);
-    u32* colours = znNGraphics::frameArrayTake<u32>(pSprites * CORNERS);
-    mVertexStreams[index] = vertices;
-    mUvStreams[index] = uvs;
-    mColourStreams[index] = colours;
+    if (mStreamIndex == 0)
+    {
+        mStreamsKept = mUnchanged && mMemoryNumber == znNGraphics::frameMemoryNumberGet();
+        znNGraphics::unchangedSet(mStreamsKept);
+        if (!mStreamsKept)
+        {
+            znNGraphics::frameMemoryReset();
+            mMemoryNumber = znNGraphics::frameMemoryNumberGet();
+            mStreams.clear();
+        }
+    }
+    if (!mStreamsKept)
+        mStreams.push_back(znNGraphics::frameArrayTake<znCGraphicsVertex>(pVertices));
+    return mStreams[mStreamIndex++];
+}
 
+void znCRenderer::spriteStreamsWrite(znCGraphicsVertex* pVertices, s32 pSprites)
+{
     znISpriteRenderData* const* read = &mSprites[static_cast<std::size_t>(mSpriteReadIndex)];
     mSpriteReadIndex += pSprites;
-    for (s32 i = 0; i < pSprites; ++i, vertices += CORNERS, uvs += CORNERS, colours += CORNERS)
+    for (s32 i = 0; i < pSprites; ++i, pVertices += CORNERS)
     {
         const znCSpriteRenderData& sprite = *static_cast<const znCSpriteRenderData*>(read[i]);
-        std::memcpy(vertices, sprite.verticesGet(), sizeof(znPointF) * CORNERS);
-        std::memcpy(uvs, sprite.uvsGet(), sizeof(znPointF) * CORNERS);
+        const znPointF* vertices = sprite.verticesGet();
+        const znPointF* uvs = sprite.uvsGet();
         const u32 colour = sprite.colourGet();
-        colours[0] = colour;
-        colours[1] = colour;
-        colours[2] = colour;
-        colours[3] = colour;
+        for (s32 corner = 0; corner < CORNERS; ++corner)
+            pVertices[corner] = {vertices[corner], uvs[corner], colour};
     }
 }
 
 void znCRenderer::textDraw(s32 pFirst, s32 pLast)
 {
-    znNGraphics::coloursSet(nullptr);
     for (s32 run = pFirst; run <= pLast; ++run)
         for (s32 left = mFontTextCounts[static_cast<std::size_t>(run)]; left > 0; --left)
         {
@@ -117,10 +129,13 @@ void znCRenderer::textDraw(s32 pFirst, s32 pLast)
             s32 index = 0;
             while (const znCGlyphRun* glyphs = text.glyphRunGet(index++))
             {
+                const s32 count = glyphs->mGlyphCount * CORNERS;
+                znCGraphicsVertex* vertices = streamsTake(count);
+                for (s32 i = 0; i < count && !mStreamsKept; ++i)
+                    vertices[i] = {glyphs->mVertices[i], glyphs->mUvs[i], glyphs->mMaterial.mColour};
                 znNGraphics::materialSet(glyphs->mMaterial);
-                znNGraphics::positionsSet(glyphs->mVertices);
-                znNGraphics::uvsSet(glyphs->mUvs);
-                znNGraphics::quadsDraw(glyphs->mGlyphCount * CORNERS);
+                znNGraphics::verticesSet(vertices);
+                znNGraphics::quadsDraw(count);
             }
         }
 }

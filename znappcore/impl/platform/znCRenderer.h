@@ -1,8 +1,8 @@
 #ifndef ZNAPPCORE_IMPL_PLATFORM_ZNCRENDERER_H
 #define ZNAPPCORE_IMPL_PLATFORM_ZNCRENDERER_H
 
+#include "media/znNGraphics.h"
 #include "znappcore/znIRenderer.h"
-#include "zncore/znPointF.h"
 
 // The renderer on the media layer: writes the streams of each run into frame memory and queues one draw call for it.
 class znCRenderer final : public znIRenderer
@@ -36,9 +36,16 @@ private:
     };
 
     s32 unusedLightIndexGet() const;
-    void spriteStreamsWrite(s32 pRun, s32 pSprites);
+    znCGraphicsVertex* streamsTake(s32 pVertices);
+    void spriteStreamsWrite(znCGraphicsVertex* pVertices, s32 pSprites);
 
-    // Into frame memory, one each a run of sprites.
+    // The streams of each draw call of the frame, in frame memory: those of an unchanged frame are still there.
+    std::vector<znCGraphicsVertex*> mStreams;
+    std::size_t mStreamIndex = 0; // of the draw call to come
+    u32 mMemoryNumber = 0;        // of the frame memory that mStreams lie in
+    bool mStreamsKept = false;    // those of the frame before are drawn
+
+    // Into mStreams, one each a run of sprites.
     std::unique_ptr<znPointF*[]> mVertexStreams;
     std::unique_ptr<znPointF*[]> mUvStreams;
     std::unique_ptr<u32*[]> mColourStreams;

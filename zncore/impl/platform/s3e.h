@@ -30,7 +30,15 @@ constexpr s32 S3E_DEBUG_ASSERT = 1;
 constexpr s32 S3E_CONFIG_STRING_MAX = 256; // size of the buffer for s3eConfigGetString, end marker included
 
 // --- keyboard ---------------------------------------------------------------------------------------------------
+constexpr s32 S3E_KEY_ESCAPE = 1;
+constexpr s32 S3E_KEY_TAB = 2;
 constexpr s32 S3E_KEY_ENTER = 4;
+constexpr s32 S3E_KEY_SHIFT = 5;
+constexpr s32 S3E_KEY_SPACE = 8;
+constexpr s32 S3E_KEY_LEFT = 9;
+constexpr s32 S3E_KEY_UP = 10;
+constexpr s32 S3E_KEY_RIGHT = 11;
+constexpr s32 S3E_KEY_DOWN = 12;
 constexpr s32 S3E_KEY_F4 = 52;
 constexpr s32 S3E_KEY_ALT = 99;
 constexpr s32 S3E_KEY_BACK = 210;      // the abstract back key: a device's back button; Escape on no platform

@@ -63,7 +63,16 @@ constexpr u32 S3E_DRAW_BLEND_ADD = 2;
 constexpr u32 S3E_DRAW_BLEND_SUBTRACT = 3;
 constexpr u32 S3E_DRAW_BLEND_ALPHA = 4;
 
-// One run of quads: four corners each in the order top left, bottom left, bottom right, top right.
+// The three streams of a run side by side.
+struct s3eDrawVertex
+{
+    float mX, mY;
+    float mU, mV;
+    u32 mColour;
+};
+
+// One run of quads: four corners each in the order top left, bottom left, bottom right, top right. Runs whose streams
+// are those of one array of s3eDrawVertex, each behind the one before, are uploaded from where they lie.
 struct s3eDrawRun
 {
     u32 mTexture;     // 0: plain colour
@@ -71,8 +80,10 @@ struct s3eDrawRun
     u32 mColour;      // of every vertex when mColours is null: (a << 24) | (b << 16) | (g << 8) | r, not premultiplied
     s32 mVertexCount; // a multiple of 4
     const float* mPositions; // x and y of each vertex in pixels of the surface, (0, 0) top left
-    const float* mUvs;       // u and v of each vertex, 0 to 1; null with texture 0
+    const float* mUvs;       // u and v of each vertex, 0 to 1; may be null with texture 0
     const u32* mColours;     // one a vertex, packed as mColour; null: mColour
+    s32 mStride = 0;         // bytes from one vertex to the next in each stream; 0: each is packed
+    s32 mUnchanged = 0;      // 1: the streams hold what they held at the flush before, for the same runs up to here
 };
 
 struct s3eDraw

@@ -22,8 +22,14 @@ constexpr char EFFECTS_SLIDER[] = "OptionsSfxSlider";
 constexpr char MUTE_ALL[] = "OptionsToggleMuteAll";
 constexpr char FULL_SCREEN[] = "OptionsToggleFullScreen";
 constexpr char CUSTOM_CURSOR[] = "OptionsToggleCustomCursor";
+constexpr char TEXT_SIZE[] = "OptionsTextSize"; // and the number of the step
 constexpr char CLOSE[] = "OptionsCloseButton";
 constexpr char SAMPLE[] = "audio/sfx/click.wav";
+
+std::string textSizeBoxGet(s32 pSize)
+{
+    return TEXT_SIZE + std::to_string(pSize);
+}
 
 znCUserSavedData& user()
 {
@@ -55,12 +61,14 @@ void znCOptionsGui::checkBoxesUpdate()
     checkBoxSet(MUTE_ALL, user().muteAllGet());
     checkBoxSet(FULL_SCREEN, user().fullScreenGet());
     checkBoxSet(CUSTOM_CURSOR, user().customCursorsGet());
+    for (s32 size = 0; size <= znCUserSavedData::TEXT_SIZE_MAX; ++size)
+        checkBoxSet(textSizeBoxGet(size), user().textSizeGet() == size);
     znNGuiChildren::activeSet(*this, FULL_SCREEN, znIHardware::instanceGet()->isDesktopGet());
     znNGuiChildren::activeSet(*this, CUSTOM_CURSOR,
                               znIInputManager::instanceGet()->pointerTypeGet() == znIInputManager::POINTER_TYPE_MOUSE);
 }
 
-void znCOptionsGui::checkBoxSet(const char* pName, bool pChecked)
+void znCOptionsGui::checkBoxSet(const std::string& pName, bool pChecked)
 {
     if (auto* box = znNGuiChildren::componentFind<znCCheckBoxComponent>(*this, pName))
         box->checkedSet(pChecked);
@@ -150,6 +158,19 @@ bool znCOptionsGui::checkBoxToggled(const std::string& pName, bool pChecked)
         znCSoftwareCursor::enabledSet(pChecked);
     }
     else
-        return false;
+        return textSizeToggled(pName);
     return true;
+}
+
+bool znCOptionsGui::textSizeToggled(const std::string& pName)
+{
+    for (s32 size = 0; size <= znCUserSavedData::TEXT_SIZE_MAX; ++size)
+    {
+        if (pName != textSizeBoxGet(size))
+            continue;
+        user().s32Set(znCUserSavedData::TEXT_SIZE, size);
+        znCProfileManager::textSizeApply(size);
+        return true;
+    }
+    return false;
 }

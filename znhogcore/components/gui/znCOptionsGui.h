@@ -5,7 +5,8 @@
 //
 // Widgets: the sliders "OptionsMusicSlider" (heard while it moves) and "OptionsSfxSlider" (applied on release, with a
 // click as sample); the check boxes "OptionsToggleMuteAll", "OptionsToggleFullScreen" (desktops only) and
-// "OptionsToggleCustomCursor" (with a mouse only), each optional; the button "OptionsCloseButton".
+// "OptionsToggleCustomCursor" (with a mouse only), and the group "OptionsTextSize0" to "OptionsTextSize2", each
+// optional; the button "OptionsCloseButton".
 
 #include "znappcore/components/gui/znIMessageListenerGuiComponent.h"
 #include "znappcore/znCUniqueId.h"
@@ -28,10 +29,11 @@ public:
 private:
     void sliderPositionsInitialise();
     void checkBoxesUpdate();
-    void checkBoxSet(const char* pName, bool pChecked);
+    void checkBoxSet(const std::string& pName, bool pChecked);
     bool musicSliderMoved(const std::string& pName, float pValue);
     bool effectsSliderReleased(const std::string& pName, float pValue);
     bool checkBoxToggled(const std::string& pName, bool pChecked);
+    bool textSizeToggled(const std::string& pName);
 };
 
 #endif

@@ -32,6 +32,7 @@ constexpr char SLOT_NAME[] = "pickItem"; // and the number
 constexpr char COUNT_TEXT_NAME[] = "itemCountText";
 constexpr char COMPLETE_SPRITE_NAME[] = "completeSprite";
 constexpr s32 ADD_INTERVAL_MS = 100;
+constexpr s32 ITEMS_MAX = 1000000; // of a save; a damaged one may say anything
 
 constexpr znCUniqueId MESSAGES[] = {
     znCHogMessageDispatcher::HINT_BUTTON_PRESSED,
@@ -44,6 +45,11 @@ const std::string& displayTextGet(const znCEntity& pEntity)
     static const std::string NONE;
     const znCNameComponent* name = znCNameComponent::get(&pEntity);
     return name != nullptr ? name->displayTextGet() : NONE;
+}
+
+s32 itemsLoad(std::string& pIn)
+{
+    return std::clamp(znINode::s32Load(pIn), 0, ITEMS_MAX);
 }
 
 // A collectable and the entity that it is part of.
@@ -372,10 +378,10 @@ void znCPickListGui::mySave(std::string& pOut)
 
 void znCPickListGui::myLoad(std::string& pIn)
 {
-    const s32 total = znINode::s32Load(pIn);
+    const s32 total = itemsLoad(pIn);
     mTotal = total > 0 ? total : mTotal; // a save from before the list has none
-    mAdded = std::max(znINode::s32Load(pIn), 0);
-    mCollected = std::max(znINode::s32Load(pIn), 0);
+    mAdded = itemsLoad(pIn);
+    mCollected = itemsLoad(pIn);
     mRestored = true;
 }
 

@@ -20,9 +20,9 @@ namespace
 constexpr const char* CLICK_SOUND = "audio/sfx/click.wav";
 
 // Their listeners expect other data than a button's.
-constexpr znCUniqueId FOREIGN_MESSAGES[] = {znCCheckBoxComponent::TOGGLED, znCSliderComponent::MOVED,
-                                            znCSliderComponent::RELEASED,
-                                            znCGuiMessageDispatcher::TUTORIAL_BUTTON_PRESSED};
+constexpr znCUniqueId FOREIGN_MESSAGES[] = {
+    znCCheckBoxComponent::TOGGLED, znCSliderComponent::MOVED, znCSliderComponent::RELEASED,
+    znCGuiMessageDispatcher::TUTORIAL_BUTTON_PRESSED, znCGuiMessageDispatcher::PLAYER_SLOT_SELECTED};
 } // namespace
 
 znCButtonComponent::znCButtonComponent(znCEntity* pEntity) : znIGestureHandlingComponent(pEntity, true, false, false)

@@ -8,6 +8,8 @@
 #include "zncore/debug/znIDebug.h"
 #include "zncore/src/znCVariableTable.h"
 
+#include <algorithm>
+
 void znCCommodityButtonComponent::messagesRegister()
 {
     znCButtonComponent::messagesRegister();
@@ -52,7 +54,7 @@ void znCCommodityButtonComponent::spriteInitialise(const znCVariableTable& pTabl
 
 s32 znCCommodityButtonComponent::countGet() const
 {
-    return znCUserSavedData::instanceGet()->s32Get(mCommodity);
+    return std::max(znCUserSavedData::instanceGet()->s32Get(mCommodity), 0);
 }
 
 bool znCCommodityButtonComponent::highlightChanged()
@@ -76,7 +78,7 @@ void znCCommodityButtonComponent::onTap()
 
 void znCCommodityButtonComponent::spend()
 {
-    znCUserSavedData::instanceGet()->s32Set(mCommodity, countGet() - 1);
+    znCUserSavedData::instanceGet()->s32Set(mCommodity, std::max(countGet() - 1, 0));
     countShow();
 }
 

@@ -30,7 +30,7 @@ public:
     bool highlightChanged() override;
     void onTap() override;
 
-    s32 countGet() const; // what is left
+    s32 countGet() const; // what is left, never negative
     // For the one that acts on the press, while it does: there was nothing to do, so nothing is to be spent.
     void spendingCancel() { mSpendingCancelled = true; }
 

@@ -66,6 +66,13 @@ void znCSliderComponent::valueSet(float pValue)
     mEntity->posSet(mOrigin.mX + static_cast<s32>(mState.mValue * mRange), mOrigin.mY);
 }
 
+void znCSliderComponent::valueMove(float pBy)
+{
+    valueSet(mState.mValue + pBy);
+    znCGuiMessageDispatcher::instanceGet()->messageSend(MOVED, &mState);
+    znCGuiMessageDispatcher::instanceGet()->messageSend(RELEASED, &mState);
+}
+
 znPoint znCSliderComponent::parentSpaceGet(const znPoint& pWorld) const
 {
     znPoint local = pWorld;

@@ -36,6 +36,7 @@ public:
     void onDragEnd(const znPoint& pPos) override;
 
     void valueSet(float pValue); // limited to 0 to 1; without a message
+    void valueMove(float pBy);      // as a drag by that part of the range does, with its messages
     float valueGet() const { return mState.mValue; }
 
 private:
