@@ -81,7 +81,7 @@ def doors(p):
 
 
 def povray(p, out, width, height, *options, source='', **declared):
-    command = ['nice', '-n', '15', 'povray', source or p.source, '-D', '+L.', f'+W{width}', f'+H{height}', f'+O{out}', f'+WT{THREADS}', *options]
+    command = ['nice', '-n', os.environ.get('NICE', '5'), 'povray', source or p.source, '-D', '+L.', f'+W{width}', f'+H{height}', f'+O{out}', f'+WT{THREADS}', *options]
     command += [f'Declare={key}={value}' for key, value in declared.items()]
     result = subprocess.run(command, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True, errors='replace')
     if result.returncode:

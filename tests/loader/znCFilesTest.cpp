@@ -357,7 +357,9 @@ TEST_F(znCFilesTest, ADamagedFileNeverReplacesTheGoodOneBeforeIt)
                 write("ram://s.txt", "new");
             });
         if (read("ram://s.txt") != "new")
+        {
             EXPECT_EQ(read("ram://s.txt~"), "good") << step;
+        }
     }
 }
 

@@ -41,7 +41,8 @@ protected:
     {
         const std::string bytes = mFolder.fileRead("sound.raw");
         std::vector<s16> sound(bytes.size() / sizeof(s16));
-        std::memcpy(sound.data(), bytes.data(), sound.size() * sizeof(s16));
+        if (!sound.empty())
+            std::memcpy(sound.data(), bytes.data(), sound.size() * sizeof(s16));
         return sound;
     }
 

@@ -203,7 +203,9 @@ TEST_F(znCProfileManagerTest, readsWhatIsLeftOfAPlayer)
             restart(); // and what was read is kept
             EXPECT_EQ(user().s32Get("currency"), recovers ? c.mRecovered : c.mCurrency) << c.mName << recovers;
             if (c.mFile.find("wings") != std::string::npos)
+            {
                 EXPECT_EQ(user().strGet("LevDat:moon") + user().strGet("Wings"), "c8e03bb6{1,zz}{2}");
+            }
             stop();
         }
 }

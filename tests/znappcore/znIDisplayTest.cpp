@@ -231,7 +231,9 @@ TEST_F(znIDisplayTest, choosesAModeAndMapsTheCanvasToIt)
         EXPECT_EQ(mPlatform.mWindow.mHeight, c.mModeHeight);
         EXPECT_EQ(display.isFullScreenGet(), c.mModeIndex >= 0);
         if (c.mModeIndex >= 0)
+        {
             EXPECT_EQ(mPlatform.mWindow.mFullScreenModeIndex, c.mModeIndex);
+        }
         EXPECT_EQ(display.posGet(), znPoint(c.mModeWidth / 2, c.mModeHeight / 2));
         display.treeUpdate(0);
         EXPECT_FLOAT_EQ(display.worldMatrixGet().m00,

@@ -406,7 +406,9 @@ TEST_F(znINodeTest, TurnsTheShortWayAndArrives)
         node.rotationTargetSet(test.mTo, 5.0f);
         node.treeUpdate(100);
         if (test.mSteps > 1)
+        {
             EXPECT_NEAR(node.rotationGet(), test.mAfterOneStep, 1e-5f);
+        }
         for (s32 i = 1; i < test.mSteps; ++i)
         {
             EXPECT_NE(node.rotationGet(), test.mTo);
@@ -689,7 +691,8 @@ TEST_F(znINodeTest, FieldsComeBackAsTheyWent)
     EXPECT_EQ(text, "50%25 of %7Bthe%7D %22Petrel%22%2C \xc3\xa9%2C %252,");
     EXPECT_EQ(znINode::strLoad(text), odd);
     text = "5%,%2,%zz,"; // what nobody saved
-    EXPECT_EQ(znINode::strLoad(text) + znINode::strLoad(text) + znINode::strLoad(text), "5%%2%zz");
+    for (const char* field : {"5%", "%2", "%zz"})
+        EXPECT_EQ(znINode::strLoad(text), field);
 
     text = "99999999999999999999,true,7";
     EXPECT_EQ(znINode::s32Load(text), 2147483647);

@@ -56,13 +56,13 @@ union{object{RBox(<5.2,TY-.5,-2.6>,<22.6,TY,6.6>,.15) texture{Wood(C_Mahog*1.1,1
  #for(k,0,3) #for(i,0,1) object{RBox(<7.0+i*7.7,1.0+k*1.55,-2.15>,<14.3+i*7.7,2.4+k*1.55,-1.8>,.08) texture{Wood(C_Mahog*1.15,1,F_Lacq)}} #for(m,0,1) torus{.24,.06 rotate x*70 translate<8.6+i*7.7+m*4.1,1.7+k*1.55,-2.25> texture{T_Brass}} #end #end #end
  cylinder{<5.3,TY+.25,-2.5>,<22.6,TY+.25,-2.5>,.07 texture{T_Brass}} #for(i,0,5) cylinder{<5.5+i*3.3,TY,-2.5>,<5.5+i*3.3,TY+.25,-2.5>,.07 texture{T_Brass}} #end}
 object{FlatImg(concat(TEX,"chart.png"),9.0,5.4) rotate y*-6 translate<11.0,TY+.03,.6>} object{Papers(4,2.0,2.7) translate<19.4,TY+.02,.2>}
-object{BookStack(3) rotate y*-12 translate<20.4,TY,4.6>} object{Books(4.6,2.5,2) translate<13.6,TY,4.6>} object{TinR(1.5) translate<12.6,TY,5.6>}
-#for(i,0,4) object{Scroll(RR(4.2,5.4),RR(.22,.32)) rotate z*RR(78,100) rotate y*RR(-20,20) translate<7.6+RR(-.6,.6),TY+.2,5.6+RR(-.3,.3)>} #end union{difference{cylinder{<0,0,0>,<0,2.4,0>,1.15} cylinder{<0,.1,0>,<0,3,0>,1.0}} torus{1.15,.08 translate y*2.4} torus{1.15,.08 translate y*.3} texture{T_OldBrass} translate<7.6,TY,5.6>}
+object{Books(4.6,2.5,2) translate<15.7,TY,4.6>}
+#for(i,0,4) object{Scroll(RR(4.2,5.4),RR(.22,.32)) rotate z*RR(78,100) rotate y*RR(-20,20) translate<6.5+RR(-.6,.6),TY+.2,5.6+RR(-.3,.3)>} #end union{difference{cylinder{<0,0,0>,<0,2.4,0>,1.15} cylinder{<0,.1,0>,<0,3,0>,1.0}} torus{1.15,.08 translate y*2.4} torus{1.15,.08 translate y*.3} texture{T_OldBrass} translate<6.5,TY,5.6>}
 object{InkWell() scale 1.3 translate<15.6,TY,-1.2>}
 // the box before the table, the hanging lamp
 union{object{RBox(<-2.3,0,-1.6>,<2.3,3.6,1.6>,.08) texture{WornPaint(<.16,.30,.40>,C_Pine)}} object{RBox(<-2.4,3.5,-1.7>,<2.4,3.95,1.7>,.08) texture{WornPaint(<.18,.34,.44>,C_Pine)}} #for(s,-1,1,2) object{RBox(<s*1.7-.2,0,-1.72>,<s*1.7+.2,3.6,-1.5>,.04) texture{T_OldBrass}} #end box{<-.3,2.7,-1.75>,<.3,3.7,-1.6> texture{T_Brass}} rotate y*-8 translate<3.3,0,.2>}
 object{WallLantern() scale 1.25 translate<6.2,18.6,1.0>} Chain(<6.2,18.4,1>,<6.2,20,1>,.2)
 // books and tins on the sill's ends, floats and a curtain at the edges
-object{TinR(1.3) translate<-20.2,9.9,8.4>} object{BottleR(2.1) translate<-19.2,9.9,9.2>} object{JarR(1.5) translate<19.4,9.9,8.8>} object{BottleR(2.2) translate<20.8,9.9,8.8>} object{BookStack(2) rotate y*15 translate<2.7,9.9,8.8>} object{VaseR(1.9) translate<-11.6,9.9,9.0>}
+object{TinR(1.3) translate<-20.2,9.9,8.4>} object{BottleR(2.1) translate<-19.2,9.9,9.2>} object{JarR(1.5) translate<19.4,9.9,8.8>} object{BottleR(2.2) translate<20.8,9.9,8.8>}  object{VaseR(1.9) translate<-11.6,9.9,9.0>}
 object{Curtain(3.4,17,4,<.14,.24,.22>) translate<-18.0,19.6,-4.0>} object{Curtain(3.0,17,4,<.14,.24,.22>) translate<18.2,19.6,-4.0>}
 #include "scenes/quay/closeups/wheelhouse_things.inc"
