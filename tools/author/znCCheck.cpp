@@ -15,6 +15,8 @@
 #include "znhogcore/src/znCHogCoreMain.h"
 #include "znhogcore/znIHogLevel.h"
 
+#include <fnmatch.h>
+
 #include <algorithm>
 #include <regex>
 #include <sstream>
@@ -92,6 +94,7 @@ const std::set<znSFault>& znCCheck::run()
         if (file.starts_with(SCENES) && file.find('/', sizeof(SCENES)) != std::string::npos)
             scenes.insert(file.substr(sizeof(SCENES) - 1, file.find('/', sizeof(SCENES)) - sizeof(SCENES) + 1));
     mScenes.assign(scenes.begin(), scenes.end());
+    keptGather();
     for (const std::string& scene : mScenes)
         mThings.insert(znNText::lowerGet(scene));
     namesCheck();
@@ -123,11 +126,42 @@ void znCCheck::tableValuesGather()
     }
 }
 
+// Scenes that a scene's table names besides the one that follows, as the map names those it opens instead of others.
+std::set<std::string> znCCheck::scenesNamedGet(const std::string& pTable) const
+{
+    const std::string& text = mGame.textGet(pTable);
+    znCVariableTable table;
+    table.textParse(text.data(), text.data() + text.size());
+    std::set<std::string> named;
+    for (const auto& [key, value] : table.entriesGet())
+        if (std::find(mScenes.begin(), mScenes.end(), value) != mScenes.end())
+            named.insert(value);
+    return named;
+}
+
 std::set<std::string> znCCheck::valuesGet() const
 {
     std::set<std::string> values = mGame.valuesAskedGet();
     values.insert(mTableValues.begin(), mTableValues.end());
     return values;
+}
+
+void znCCheck::keptGather()
+{
+    s32 number = 0;
+    for (const std::string& line : znNText::linesGet(mGame.textGet(KEPT_FILE)))
+    {
+        ++number;
+        const std::string form = znNText::lowerGet(line.substr(0, line.find_first_of(" \t#")));
+        if (!form.empty())
+            mKept.emplace_back(form, number);
+    }
+}
+
+bool znCCheck::kept(const std::string& pName) const
+{
+    return std::any_of(mKept.begin(), mKept.end(),
+                       [&pName](const auto& pForm) { return fnmatch(pForm.first.c_str(), pName.c_str(), 0) == 0; });
 }
 
 void znCCheck::namesCheck()
@@ -178,6 +212,7 @@ void znCCheck::scenesCheck()
         znCSceneCheck check(scene, mGame, mFaults, mComplaints, files);
         check.run();
         mWays[scene] = check.waysGet();
+        mWays[scene].merge(scenesNamedGet(files[1]));
         mThings.merge(check.thingsGet());
         mGame.framesRun(SCENE_FRAMES);
         mGame.complaintsTake(); // of the effects that were set off out of turn
@@ -357,7 +392,7 @@ void znCCheck::wayCheck()
     {
         const std::string table = SCENES + scene + "/" + scene + ".txt";
         const s32 line = znNText::keyLineFind(mGame.textGet(table), znIHogLevel::NEXT_LEVEL_KEY);
-        if (reached.count(scene) == 0)
+        if (reached.count(scene) == 0 && !kept(table))
             mFaults.add(table, 0,
                         "nothing leads to the scene " + scene + "; name it as ACT1NextLev of another, or on the map");
         for (const std::string& next : ways)
@@ -387,7 +422,7 @@ void znCCheck::stringsCheck()
 {
     const std::string file = stringsFileGet(mGame);
     for (const auto& [key, value] : znCLocalisedStrings::instanceGet()->entriesGet())
-        if (!stringUsed(key))
+        if (!stringUsed(key) && !kept(key))
             mFaults.add(file, stringLineGet(mGame, key),
                         "nothing shows the text '" + key + "'; correct the key, or take it out");
 }
@@ -397,6 +432,9 @@ bool znCCheck::stringUsed(const std::string& pKey) const
     if (mGame.keysAskedGet().count(pKey) != 0 || znNCodeLiterals::literalHas(pKey) || pKey.starts_with("hint-") ||
         pKey.starts_with(TUTORIAL_MARK))
         return true;
+    for (const auto& [file, content] : mGame.filesGet())
+        if (file.ends_with(".txt") && kept(file) && znNText::lineFind(content, pKey, true) != 0)
+            return true;
     return composedByCode(pKey);
 }
 
@@ -416,13 +454,10 @@ bool znCCheck::composedByCode(const std::string& pText) const
 
 void znCCheck::unusedCheck()
 {
-    std::set<std::string> kept;
-    for (const std::string& line : znNText::linesGet(mGame.textGet(KEPT_FILE)))
-        kept.insert(line.substr(0, line.find_first_of(" \t#")));
     for (const auto& [file, content] : mGame.filesGet())
     {
         if (znNText::lowerGet(file) != file || file.ends_with(".md") || file == KEPT_FILE || file.starts_with(FONTS) ||
-            kept.count(file) != 0 || fileUsed(file))
+            kept(file) || fileUsed(file))
             continue;
         const bool inScene = file.starts_with(SCENES);
         const std::string page = inScene ? file.substr(0, file.rfind('/')) + "/texturepage" : "";
@@ -433,10 +468,22 @@ void znCCheck::unusedCheck()
                 text = "is hidden by the picture of that name on " + list + "; remove one of the two";
         mFaults.add(file, 0, text);
     }
-    for (const std::string& file : kept)
-        if (!file.empty() && !mGame.fileExists(file))
-            mFaults.add(KEPT_FILE, znNText::lineFind(mGame.textGet(KEPT_FILE), file, true),
-                        "there is no file " + file + "; take it out of the list");
+    keptCheck();
+}
+
+void znCCheck::keptCheck()
+{
+    const auto& files = mGame.filesGet();
+    const auto& texts = znCLocalisedStrings::instanceGet()->entriesGet();
+    for (const auto& [form, line] : mKept)
+    {
+        const auto fits = [&form = form](const auto& pEntry)
+        {
+            return fnmatch(form.c_str(), pEntry.first.c_str(), 0) == 0;
+        };
+        if (std::none_of(files.begin(), files.end(), fits) && std::none_of(texts.begin(), texts.end(), fits))
+            mFaults.add(KEPT_FILE, line, "there is no file and no text " + form + "; take it out of the list");
+    }
 }
 
 bool znCCheck::fileUsed(const std::string& pFile) const

@@ -11,7 +11,8 @@
 class znCCheck
 {
 public:
-    // A text file that lists files which nothing uses yet and that are to stay, one a line; "#" begins a comment.
+    // A text file that lists what nothing uses yet and is to stay, one a line: files, tables of scenes, keys of texts.
+    // "*" stands for any letters, "#" begins a comment.
     static constexpr const char* KEPT_FILE = "kept.txt";
 
     explicit znCCheck(const std::filesystem::path& pData) : mGame(pData) {}
@@ -19,8 +20,12 @@ public:
     const std::set<znSFault>& run();
 
 private:
+    void keptGather();
+    bool kept(const std::string& pName) const;
+    void keptCheck();
     void namesCheck();
     void tableValuesGather();
+    std::set<std::string> scenesNamedGet(const std::string& pTable) const;
     void startCheck();
     void scenesCheck();
     void screensCheck();
@@ -46,6 +51,7 @@ private:
     znCFaults mFaults;
     znCComplaints mComplaints{mGame, mFaults};
     std::vector<std::string> mScenes;
+    std::vector<std::pair<std::string, s32>> mKept;     // with their lines
     std::map<std::string, std::set<std::string>> mWays; // from a scene to others and to screens
     std::set<std::string> mTableValues;                 // of settings and scenes
     std::set<std::string> mValuesSeen;

@@ -42,7 +42,10 @@ public:
         s32 mLeft = 0, mTop = 0; // of what is in sight, in the picture
     };
 
-    explicit znCFairness(const std::filesystem::path& pData) : mGame(pData) {}
+    explicit znCFairness(const std::filesystem::path& pData) : mGame(pData)
+    {
+        mGame.mPlatform.mDraw.mRecording = true; // which keeps the pixels of textures
+    }
 
     // False if there is no such scene.
     bool measure(const std::string& pScene);

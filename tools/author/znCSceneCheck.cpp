@@ -7,6 +7,7 @@
 #include "znappcore/src/znCEntity.h"
 #include "zncore/znCResourceName.h"
 #include "znhogcore/components/gui/znCDropOffPickListEntryGui.h"
+#include "znhogcore/components/gui/znCEndMenuGui.h"
 #include "znhogcore/components/gui/znCPickListGui.h"
 #include "znhogcore/components/gui/znIPickListEntryGui.h"
 #include "znhogcore/components/znCDraggableKeyComponent.h"
@@ -290,6 +291,8 @@ std::set<std::string> znCSceneCheck::waysGet() const
         ways.insert(next);
     for (const znCEntity* exit : mLevel->entitiesWithKindGet<znCNavigateComponent>())
         ways.insert(exit->componentFind<znCNavigateComponent>()->targetGet());
+    if (!mLevel->entitiesWithKindGet<znCEndMenuGui>().empty()) // behind the end the map stays open
+        ways.insert(znCHogCoreMain::MAP);
     return ways;
 }
 
