@@ -2,6 +2,7 @@
 
 #include "tools/author/znCCheck.h"
 #include "tools/author/znCFairness.h"
+#include "tools/author/znCImport.h"
 #include "tools/author/znCNewScene.h"
 #include "tools/author/znCPacker.h"
 #include "tools/author/znCShot.h"
@@ -69,6 +70,17 @@ int sceneNew(const fs::path& pData, const std::string& pName)
     return 0;
 }
 
+int import(const fs::path& pData, const fs::path& pFile, const std::string& pScene)
+{
+    znCImport import(pData);
+    if (!import.import(pFile, pScene))
+        return 1;
+    for (const std::string& note : import.notesGet())
+        std::printf("%s\n", note.c_str());
+    std::printf("%zu files written to %s\n", import.filesGet().size(), (pData / "scenes" / pScene).c_str());
+    return 0;
+}
+
 int pack(const fs::path& pData, const std::string& pScene)
 {
     znCPacker packer(pData);
@@ -127,7 +139,10 @@ int main(int pCount, char** pArguments)
     CLI::App* unpackCommand = program.add_subcommand("unpack", "Makes loose pictures of a scene's texture pages");
     unpackCommand->add_option("SCENE", name)->required();
     unpackCommand->add_flag("--loose-wins", looseWins, "Keep what lies loose, whatever a page has of that name");
-    for (CLI::App* command : {fairCommand, shotCommand, sceneCommand, packCommand, unpackCommand})
+    CLI::App* importCommand = program.add_subcommand("import", "Makes a scene of a layered OpenRaster file");
+    importCommand->add_option("FILE", picture, "FILE.ora")->required();
+    importCommand->add_option("SCENE", name)->required();
+    for (CLI::App* command : {fairCommand, shotCommand, sceneCommand, packCommand, unpackCommand, importCommand})
         command->add_option("--data", data, "The data folder")->capture_default_str()->check(CLI::ExistingDirectory);
     CLI11_PARSE(program, pCount, pArguments);
 
@@ -137,6 +152,8 @@ int main(int pCount, char** pArguments)
         return fair(data, name, picture.empty() ? "fair-" + name + ".png" : picture);
     if (newCommand->parsed())
         return sceneNew(data, name);
+    if (importCommand->parsed())
+        return import(data, picture, name);
     if (packCommand->parsed())
         return pack(data, name);
     if (unpackCommand->parsed())
