@@ -6,6 +6,7 @@
 #include "tools/author/znCNewScene.h"
 #include "tools/author/znCPacker.h"
 #include "tools/author/znCShot.h"
+#include "tools/author/znCWatch.h"
 #include "tools/author/znNText.h"
 
 #include <CLI/CLI.hpp>
@@ -106,6 +107,18 @@ int unpack(const fs::path& pData, const std::string& pScene, bool pLooseWins)
     std::printf("%zu pictures taken off %zu pages\n", packer.movedGet().size(), packer.pagesGet().size());
     return 0;
 }
+
+int watch(const fs::path& pProgram, const fs::path& pData, const std::string& pScene, const std::string& pSize)
+{
+    const bool played = znCWatch(pProgram, pData)
+                            .run(pScene, {"--windowed", "--size", pSize},
+                                 [](const std::string& pComplaint)
+                                 {
+                                     std::printf("%s\n", pComplaint.c_str());
+                                     std::fflush(stdout);
+                                 });
+    return played ? 0 : 1;
+}
 } // namespace
 
 int main(int pCount, char** pArguments)
@@ -142,7 +155,11 @@ int main(int pCount, char** pArguments)
     CLI::App* importCommand = program.add_subcommand("import", "Makes a scene of a layered OpenRaster file");
     importCommand->add_option("FILE", picture, "FILE.ora")->required();
     importCommand->add_option("SCENE", name)->required();
-    for (CLI::App* command : {fairCommand, shotCommand, sceneCommand, packCommand, unpackCommand, importCommand})
+    CLI::App* watchCommand = program.add_subcommand("watch", "Plays a scene that opens anew when its files change");
+    watchCommand->add_option("SCENE", name)->required();
+    watchCommand->add_option("--size", size, "WxH of the window, pixels")->capture_default_str();
+    for (CLI::App* command :
+         {fairCommand, watchCommand, shotCommand, sceneCommand, packCommand, unpackCommand, importCommand})
         command->add_option("--data", data, "The data folder")->capture_default_str()->check(CLI::ExistingDirectory);
     CLI11_PARSE(program, pCount, pArguments);
 
@@ -159,6 +176,8 @@ int main(int pCount, char** pArguments)
     if (unpackCommand->parsed())
         return unpack(data, name, looseWins);
     const fs::path game = fs::canonical("/proc/self/exe").parent_path() / "petrelmail";
+    if (watchCommand->parsed())
+        return watch(game, data, name, size);
     const std::string file = picture.empty() ? znNText::stemGet(name) + ".png" : picture;
     return znCShot(game, data, size).take(name, file, wait) ? 0 : 1;
 }
