@@ -60,9 +60,11 @@ void sceneFinish(ShippedGame& pGame, u32 pSeed)
     sailOn(pGame);
 }
 
-// Presses a place of the map, through the close-up that it may stand in.
+// Presses a place of the map, from the open chart or through the close-up that it may stand in.
 void placePress(ShippedGame& pGame, const std::string& pScene)
 {
+    if (ShippedPlayer::subSceneIndexGet() > 0)
+        ShippedPlayer(pGame).stepBack();
     const std::string place = "NAV-" + pScene + ".png";
     if (ShippedGame::shownFind(place) == nullptr)
         pGame.press("SUB1.png");
