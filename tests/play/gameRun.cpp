@@ -66,9 +66,15 @@ int GameRun::headlessRun(const std::vector<std::string>& pOptions)
 {
     std::vector<std::string> options = {"--headless", "--data",         mData, "--user", mFolder / "user",
                                         "--shots",    mFolder / "shots"};
+    const auto isGiven = [&pOptions](const char* pOption)
+    {
+        return std::find(pOptions.begin(), pOptions.end(), pOption) != pOptions.end();
+    };
     // A recording brings its own clock.
-    if (std::find(pOptions.begin(), pOptions.end(), "--replay") == pOptions.end())
-        options.insert(options.end(), {"--step", "16", "--seed", "1000"});
+    if (!isGiven("--replay"))
+        options.insert(options.end(), {"--seed", "1000"});
+    if (!isGiven("--replay") && !isGiven("--step"))
+        options.insert(options.end(), {"--step", "16"});
     options.insert(options.end(), pOptions.begin(), pOptions.end());
     return run(options);
 }
