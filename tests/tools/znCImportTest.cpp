@@ -1,13 +1,7 @@
 #include "tools/author/znCImport.h"
 
 #include "tests/tools/authorData.h"
-#include "znhogcore/components/znCDraggableKeyComponent.h"
-#include "znhogcore/components/znCLockComponent.h"
-#include "znhogcore/components/znCSubSceneComponent.h"
-#include "znhogcore/components/znCSubSceneNavigateComponent.h"
-#include "znhogcore/components/znCTappableCollectableComponent.h"
-#include "znhogcore/src/znCHogCoreMain.h"
-#include "znhogcore/znIHogLevel.h"
+#include "tests/tools/sceneRobot.h"
 
 #include <gtest/gtest.h>
 #include <zip.h>
@@ -95,74 +89,6 @@ std::map<std::string, std::string> folderGet(const AuthorData& pData)
             files[entry.path().filename()] = pData.textGet("scenes/cellar/" + entry.path().filename().string());
     return files;
 }
-
-// Plays what lies open by presses alone.
-class Robot
-{
-public:
-    explicit Robot(const fs::path& pData) : mGame(pData)
-    {
-        mGame.mPlatform.mWindow.modesSet({{1366, 768, 32, 60, 0}});
-        mGame.open("cellar");
-        framesRun(200);
-    }
-
-    bool play()
-    {
-        for (s32 i = 0; i < 60 && !ended(); ++i)
-        {
-            step();
-            framesRun(60);
-        }
-        return ended();
-    }
-
-private:
-    static bool ended() { return znCHogCoreMain::instanceGet()->appDisplayChildFind("roundScoreGui") != nullptr; }
-    void framesRun(s32 pCount)
-    {
-        for (s32 i = 0; i < pCount; ++i)
-        {
-            s3ePointerUpdate();
-            mGame.framesRun(1);
-        }
-    }
-    void pointer(bool pDown, const znPoint& pPos)
-    {
-        mGame.mPlatform.mInput.buttonQueue(0, pDown, pPos.mX, pPos.mY);
-        framesRun(1);
-    }
-    void tap(const znPoint& pPos)
-    {
-        pointer(true, pPos);
-        pointer(false, pPos);
-    }
-    void step()
-    {
-        znCEntity* room = znIHogLevel::levelGet()->currentSubSceneGet()->entityGet();
-        for (znCEntity* thing : room->entitiesWithKindGet<znCTappableCollectableComponent>())
-        {
-            const auto* tappable = thing->componentFind<znCTappableCollectableComponent>();
-            if (!tappable->inactiveGet() && !tappable->collectionStartedGet() &&
-                thing->componentGet<znCLockComponent>() == nullptr)
-                return tap(thing->worldPosGet());
-        }
-        for (znCEntity* key : room->entitiesWithComponentsGet({&typeid(znCDraggableKeyComponent)}))
-            for (znCEntity* lock : room->entitiesWithComponentsGet({&typeid(znCLockComponent)}))
-                if (key->activeInTreeGet() && lock->componentGet<znCLockComponent>()->keyNeeded(key))
-                {
-                    pointer(true, key->worldPosGet());
-                    mGame.mPlatform.mInput.motionQueue(lock->worldPosGet().mX, lock->worldPosGet().mY);
-                    framesRun(1);
-                    return pointer(false, lock->worldPosGet());
-                }
-        for (znCEntity* door : room->entitiesWithComponentsGet({&typeid(znCSubSceneNavigateComponent)}))
-            if (door->activeInTreeGet())
-                return tap(door->worldPosGet());
-    }
-
-    znCAuthorGame mGame;
-};
 } // namespace
 
 TEST(znCImportTest, makesASceneThatIsPlayedToItsEnd)
@@ -191,7 +117,7 @@ TEST(znCImportTest, makesASceneThatIsPlayedToItsEnd)
     EXPECT_EQ(marble.at(20, 20)[3], 102) << "0.5 of 0.8";
     EXPECT_FALSE(fs::exists(data.folderGet() / "scenes/cellar/tsk-light.png"));
     EXPECT_NE(data.textGet("strings.xml").find("cellarTitle"), std::string::npos);
-    EXPECT_TRUE(Robot(data.folderGet()).play());
+    EXPECT_TRUE(SceneRobot(data.folderGet(), "cellar").play());
 }
 
 TEST(znCImportTest, renewsASceneAndKeepsWhatHasNoPicture)
