@@ -27,6 +27,6 @@ object{VaseR(2.0) translate<-7.7,5.6,5.6>} object{BottleR(1.8) translate<-2.7,5.
 #for(k,0,26) sphere{<-6.2+1.5*cos(k*.25),.12+.02*mod(k,2),-.15+.62*sin(k*.25)>,.115 texture{pigment{srgb<.97,.94,.88>} finish{F_Gloss}}} #end
 #for(k,0,2) sphere{<6.9+.5*k-.0*k,.24,1.7-.35*mod(k,2)>,.24 texture{pigment{marble turbulence .8 scale .3 color_map{[0 srgb (k=1?<.10,.50,.48>:<.60,.26,.20>)][1 srgb<.96,.9,.8>]}} finish{F_Gloss}}} #end
 union{TagTied(1,.55,<-3.6,5.5,3.3>)}
-// the glance of the glass
-box{<-8,-.1,-.9>,<8,11,-.89> texture{pigment{gradient x color_map{[0 srgbt<1,1,1,1>][.30 srgbt<1,1,1,1>][.33 srgbt<1,.95,.82,.93>][.47 srgbt<1,.95,.82,.93>][.48 srgbt 1][.54 srgbt 1][.55 srgbt<1,.95,.82,.95>][.58 srgbt<1,.95,.82,.95>][.59 srgbt 1][1 srgbt 1]} scale 13 rotate z*-30 translate x*-2} finish{ambient 0 diffuse 0 emission .8}} no_shadow no_radiosity}
+// the glance of the glass; not in silhouettes, which know no transparency
+#if(BOUNCE) box{<-8,-.1,-.9>,<8,11,-.89> texture{pigment{gradient x color_map{[0 srgbt<1,1,1,1>][.30 srgbt<1,1,1,1>][.33 srgbt<1,.95,.82,.93>][.47 srgbt<1,.95,.82,.93>][.48 srgbt 1][.54 srgbt 1][.55 srgbt<1,.95,.82,.95>][.58 srgbt<1,.95,.82,.95>][.59 srgbt 1][1 srgbt 1]} scale 13 rotate z*-30 translate x*-2} finish{ambient 0 diffuse 0 emission .8}} no_shadow no_radiosity} #end
 #include "scenes/shop/closeups/glass_case_things.inc"
