@@ -9,7 +9,7 @@ light_source{<14,12,-18> srgb<.9,.72,.58>*.35}
 // the sun comes past the posts and panes of the counter and of the window
 union{#for(k,0,4) box{<-15.2,-4,-19+k*4.6>,<-15,18,-17.9+k*4.6>} #end #for(k,0,4) box{<-15.2,6.2+k*2.7,-30>,<-15,6.6+k*2.7,8>} #end no_image no_reflection no_radiosity}
 #declare Sd=seed(81);
-#declare V1=texture{Velvet(<.40,.15,.52>)} #declare V2=texture{Velvet(<.09,.36,.36>)}
+#declare V1=texture{Velvet(<.24,.13,.44>)} #declare V2=texture{Velvet(<.09,.36,.36>)}
 box{<-12,-1,-3>,<12,0,7> texture{V1}} box{<-12,-1,2.9>,<12,1.6,7> texture{V1}} cylinder{<-12,1.56,2.9>,<12,1.56,2.9>,.07 texture{T_Gold}}
 box{<-12,-1,6.6>,<12,14,7> texture{V2 normal{quilted .6 scale<2.2,2.2,2.2> rotate z*45}}} #for(i,-5,5) #for(j,0,5) sphere{<i*2.2+mod(j,2)*1.1,2.2+j*1.5,6.55>,.10 texture{T_Gold}} #end #end
 // the glass shelf on brass arms
@@ -28,5 +28,5 @@ object{VaseR(2.0) translate<-7.7,5.6,5.6>} object{BottleR(1.8) translate<-2.7,5.
 #for(k,0,2) sphere{<6.9+.5*k-.0*k,.24,1.7-.35*mod(k,2)>,.24 texture{pigment{marble turbulence .8 scale .3 color_map{[0 srgb (k=1?<.10,.50,.48>:<.60,.26,.20>)][1 srgb<.96,.9,.8>]}} finish{F_Gloss}}} #end
 union{TagTied(1,.55,<-3.6,5.5,3.3>)}
 // the glance of the glass; not in silhouettes, which know no transparency
-#if(BOUNCE) box{<-8,-.1,-.9>,<8,11,-.89> texture{pigment{gradient x color_map{[0 srgbt<1,1,1,1>][.30 srgbt<1,1,1,1>][.33 srgbt<1,.95,.82,.93>][.47 srgbt<1,.95,.82,.93>][.48 srgbt 1][.54 srgbt 1][.55 srgbt<1,.95,.82,.95>][.58 srgbt<1,.95,.82,.95>][.59 srgbt 1][1 srgbt 1]} scale 13 rotate z*-30 translate x*-2} finish{ambient 0 diffuse 0 emission .8}} no_shadow no_radiosity} #end
+#if(BOUNCE) box{<-9,-3,-2.9>,<9,11,-2.89> texture{pigment{gradient x color_map{[0 srgbt<1,1,1,1>][.30 srgbt<1,1,1,1>][.33 srgbt<1,.95,.82,.93>][.47 srgbt<1,.95,.82,.93>][.48 srgbt 1][.54 srgbt 1][.55 srgbt<1,.95,.82,.95>][.58 srgbt<1,.95,.82,.95>][.59 srgbt 1][1 srgbt 1]} scale 13 rotate z*-30 translate x*-2} finish{ambient 0 diffuse 0 emission .8}} no_shadow no_radiosity} #end
 #include "scenes/shop/closeups/glass_case_things.inc"
