@@ -34,7 +34,7 @@ union{
 union{
  Crumple(-6.9,6.9,-4.6,4.6,1.0,.45,60,44,Cloth(<.20,.27,.44>,.05))
  object{Fold(4.6,3.6,3,1.1) texture{pigment{granite scale 2 color_map{[0 srgb<.09,.14,.34>][1 srgb<.15,.22,.46>]}} normal{granite .2 scale .12} finish{ambient 0 diffuse .9}} rotate y*5 translate<-4.3,1.2,2.2>} // the coat: its buttons, its braid
- union{#for(i,0,3) #for(s,0,1) sphere{<-.75+s*1.5,1.16,-1.2+i*.78>,.17 scale<1,1,1>} #end #end #for(s,-1,1,2) cylinder{<s*2.1,1.10,-1.6>,<s*2.1,1.10,1.6>,.07} #end texture{T_Gold} rotate y*5 translate<-4.3,1.2,2.2>}
+ union{#for(i,0,3) #for(s,0,1) union{sphere{0,.17 scale<1,.5,1>} torus{.15,.03} translate<.35+s*1.3,1.16,-1.35+i*.72>} #end cylinder{<.55,1.13,-1.35+i*.72>,<1.45,1.13,-1.35+i*.72>,.035} #end cylinder{<2.1,1.08,-1.6>,<2.1,1.08,1.6>,.06} cylinder{<-.1,1.12,-1.7>,<-.1,1.12,1.7>,.05} texture{T_Gold} rotate y*5 translate<-4.3,1.2,2.2>}
  object{Fold(3.6,3.0,3,1.2) texture{pigment{granite scale 2 color_map{[0 srgb<.74,.68,.56>][1 srgb<.92,.87,.76>]}} normal{granite .15 scale .1} finish{ambient 0 diffuse .85}} rotate y*-7 translate<.2,1.1,2.4>} object{Fold(3.3,2.8,2,.7) Stripes(<.82,.78,.68>,<.26,.40,.60>,.55) rotate y*4 translate<-.1,2.1,2.5>}
  object{Rolled(4.0,1.15,<.56,.13,.10>,<.84,.72,.50>) rotate y*8 translate<4.6,2.0,3.0>}
  object{Fold(4.4,3.2,3,1.0) texture{pigment{checker srgb<.40,.10,.09>,srgb<.22,.26,.22> scale<.7,9,.7>} normal{granite .15 scale .1} finish{ambient 0 diffuse .9}} rotate y*-6 translate<4.2,1.1,-2.2>}
