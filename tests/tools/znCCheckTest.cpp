@@ -40,7 +40,9 @@ void hallSet(AuthorData& pData)
                           "PAR-hallfog,0,0\n"                                             // 20
                           "PCK-paged.png,0,0\n"                                           // 21
                           "BackgroundAttic.png,0,0\n"                                     // 22
-                          "INS-oil.png,0,0\n");                                           // 23
+                          "INS-oil.png,0,0\n"                                             // 23
+                          "NAV-later.png,0,0\n"                                           // 24
+                          "NAV-never.png,0,0\n");                                         // 25
     pData.textSet(TABLE, "numHogItems = \"40\",\n"
                          "numHogItem = \"4\",\n"
                          "ambient = \"audio/sfx/none.wav\",\n"
@@ -76,9 +78,9 @@ void hallSet(AuthorData& pData)
                          "    Wrod {\n"
                          "    }\n"
                          "}\n");
-    for (const char* picture :
-         {"pck-rope", "pkc-lamp", "pck-cup", "pre-oil-lamp", "ins-wick", "pre-wax-seal+stamp", "ins-wax", "sub4-chest",
-          "pck-a_name_that_no_slot_of_any_list_could_ever_hold", "pck-crate", "ins-oil", "idle", "pck-paged"})
+    for (const char* picture : {"pck-rope", "pkc-lamp", "pck-cup", "pre-oil-lamp", "ins-wick", "pre-wax-seal+stamp",
+                                "ins-wax", "sub4-chest", "pck-a_name_that_no_slot_of_any_list_could_ever_hold",
+                                "pck-crate", "ins-oil", "idle", "pck-paged", "nav-later", "nav-never"})
         pData.pictureSet("scenes/hall/" + std::string(picture) + ".png", 20, 20);
     pData.pictureSet("scenes/hall/pck-odd.png", 21, 20);
     pData.pictureSet("scenes/hall/texturepage0.png", 64, 64);
@@ -131,7 +133,7 @@ TEST(znCCheckTest, everyFaultIsNamedInItsFileAndLine)
     data.textSet("scenes/bare/bare.txt", "\n");
     data.textSet("gui/kept.txt", "# for later\n");
     data.textSet("gui/kept2.txt", "textKey = \"kepttext\"\n");
-    data.textSet("kept.txt", "gui/kept*.txt  # for later\ngui/gone.txt\nlatertex?\n");
+    data.textSet("kept.txt", "gui/kept*.txt  # for later\ngui/gone.txt\nlatertex?\nlater\n");
     data.textSet("appsettings.txt", "appCanvasW = \"1366\",\nappCanvasH = \"768\",\nfirstScene = \"hall\",\n"
                                     "fristScene = \"hall\",\nlistColRandom = \"2b1a0aff\",\n");
     const std::string strings = data.textGet("strings.xml");
@@ -155,6 +157,7 @@ TEST(znCCheckTest, everyFaultIsNamedInItsFileAndLine)
         {COORDS, 18, "should not run forever"},
         {COORDS, 19, "same file in lower case"},
         {COORDS, 22, "no door leads into this close-up"},
+        {COORDS, 25, "leads to never, which is neither a scene"},
         {COORDS, 23, "stands in another close-up than its lock"},
         {"scenes/hall/anm-broken.xml", 6, "frame"},
         {"particles/hallfog.txt", 3, "8 characters"},
@@ -190,7 +193,8 @@ TEST(znCCheckTest, everyFaultIsNamedInItsFileAndLine)
                                 }))
             << fault.mFile << ":" << fault.mLine << ": " << fault.mText;
     const std::string list = listGet(faults);
-    for (const char* kept : {"gui/kept.txt", "gui/kept2.txt", "latertext", "kepttext", "scene cave", "scene map"})
+    for (const char* kept :
+         {"gui/kept.txt", "gui/kept2.txt", "latertext", "kepttext", "scene cave", "scene map", "leads to later"})
         EXPECT_EQ(list.find(kept), std::string::npos) << kept;
     if (HasFailure())
         ADD_FAILURE() << list;

@@ -2,8 +2,11 @@
 
 #include "tools/author/znCCheck.h"
 #include "tools/author/znCFairness.h"
+#include "tools/author/znCImport.h"
 #include "tools/author/znCNewScene.h"
+#include "tools/author/znCPacker.h"
 #include "tools/author/znCShot.h"
+#include "tools/author/znCWatch.h"
 #include "tools/author/znNText.h"
 
 #include <CLI/CLI.hpp>
@@ -67,6 +70,55 @@ int sceneNew(const fs::path& pData, const std::string& pName)
     std::printf("play it: petrelmail --data %s -- %s\n", pData.c_str(), pName.c_str());
     return 0;
 }
+
+int import(const fs::path& pData, const fs::path& pFile, const std::string& pScene)
+{
+    znCImport import(pData);
+    if (!import.import(pFile, pScene))
+        return 1;
+    for (const std::string& note : import.notesGet())
+        std::printf("%s\n", note.c_str());
+    std::printf("%zu files written to %s\n", import.filesGet().size(), (pData / "scenes" / pScene).c_str());
+    return 0;
+}
+
+int pack(const fs::path& pData, const std::string& pScene)
+{
+    znCPacker packer(pData);
+    const znCPacker::Cost before = packer.costGet(pScene);
+    if (!packer.pack(pScene))
+        return 1;
+    for (const std::string& file : packer.tooLargeGet())
+        std::printf("%s stays loose: no side may be longer than %d\n", file.c_str(), znCPacker::SIDE_MAX);
+    for (const std::string& page : packer.pagesGet())
+        std::printf("%s\n", page.c_str());
+    std::printf("%zu pictures moved onto %zu pages\n", packer.movedGet().size(), packer.pagesGet().size());
+    const znCPacker::Cost after = packer.costGet(pScene);
+    std::printf("files read: %d before, %d now; draw runs a frame: %d before, %d now\n", before.mFiles, after.mFiles,
+                before.mRuns, after.mRuns);
+    return 0;
+}
+
+int unpack(const fs::path& pData, const std::string& pScene, bool pLooseWins)
+{
+    znCPacker packer(pData);
+    if (!packer.unpack(pScene, pLooseWins))
+        return 1;
+    std::printf("%zu pictures taken off %zu pages\n", packer.movedGet().size(), packer.pagesGet().size());
+    return 0;
+}
+
+int watch(const fs::path& pProgram, const fs::path& pData, const std::string& pScene, const std::string& pSize)
+{
+    const bool played = znCWatch(pProgram, pData)
+                            .run(pScene, {"--windowed", "--size", pSize},
+                                 [](const std::string& pComplaint)
+                                 {
+                                     std::printf("%s\n", pComplaint.c_str());
+                                     std::fflush(stdout);
+                                 });
+    return played ? 0 : 1;
+}
 } // namespace
 
 int main(int pCount, char** pArguments)
@@ -77,6 +129,7 @@ int main(int pCount, char** pArguments)
     std::string name;
     std::string picture;
     std::string size = "1366x768";
+    bool looseWins = false;
     s32 wait = znCShot::WAIT_MS;
 
     CLI::App* checkCommand = program.add_subcommand("check", "Names everything that is wrong in the data");
@@ -94,7 +147,19 @@ int main(int pCount, char** pArguments)
     newCommand->require_subcommand(1);
     CLI::App* sceneCommand = newCommand->add_subcommand("scene", "A scene with one object of each kind");
     sceneCommand->add_option("NAME", name)->required();
-    for (CLI::App* command : {fairCommand, shotCommand, sceneCommand})
+    CLI::App* packCommand = program.add_subcommand("pack", "Puts a scene's loose pictures onto texture pages");
+    packCommand->add_option("SCENE", name)->required();
+    CLI::App* unpackCommand = program.add_subcommand("unpack", "Makes loose pictures of a scene's texture pages");
+    unpackCommand->add_option("SCENE", name)->required();
+    unpackCommand->add_flag("--loose-wins", looseWins, "Keep what lies loose, whatever a page has of that name");
+    CLI::App* importCommand = program.add_subcommand("import", "Makes a scene of a layered OpenRaster file");
+    importCommand->add_option("FILE", picture, "FILE.ora")->required();
+    importCommand->add_option("SCENE", name)->required();
+    CLI::App* watchCommand = program.add_subcommand("watch", "Plays a scene that opens anew when its files change");
+    watchCommand->add_option("SCENE", name)->required();
+    watchCommand->add_option("--size", size, "WxH of the window, pixels")->capture_default_str();
+    for (CLI::App* command :
+         {fairCommand, watchCommand, shotCommand, sceneCommand, packCommand, unpackCommand, importCommand})
         command->add_option("--data", data, "The data folder")->capture_default_str()->check(CLI::ExistingDirectory);
     CLI11_PARSE(program, pCount, pArguments);
 
@@ -104,7 +169,15 @@ int main(int pCount, char** pArguments)
         return fair(data, name, picture.empty() ? "fair-" + name + ".png" : picture);
     if (newCommand->parsed())
         return sceneNew(data, name);
+    if (importCommand->parsed())
+        return import(data, picture, name);
+    if (packCommand->parsed())
+        return pack(data, name);
+    if (unpackCommand->parsed())
+        return unpack(data, name, looseWins);
     const fs::path game = fs::canonical("/proc/self/exe").parent_path() / "petrelmail";
+    if (watchCommand->parsed())
+        return watch(game, data, name, size);
     const std::string file = picture.empty() ? znNText::stemGet(name) + ".png" : picture;
     return znCShot(game, data, size).take(name, file, wait) ? 0 : 1;
 }

@@ -2,6 +2,7 @@
 
 #include "media/znNGraphics.h"
 #include "src/CGameSpecificMain.h"
+#include "tools/author/znNGameLog.h"
 #include "tools/author/znNText.h"
 #include "znappcore/components/gui/znCGuiFileReader.h"
 #include "zncore/src/znCVariableTable.h"
@@ -25,19 +26,6 @@ std::string fileRead(const std::filesystem::path& pFile)
     std::ostringstream content;
     content << file.rdbuf();
     return content.str();
-}
-
-// What the game tells about the device, which is none here.
-bool isAboutTheDevice(const std::string& pLine)
-{
-    return pLine.starts_with("LOG(znCDisplay::") || pLine.starts_with("LOG(znIDisplay::") ||
-           pLine.starts_with("LOG(znCHardware::");
-}
-
-std::string trimmed(const std::string& pText)
-{
-    const auto end = pText.find_last_not_of(" \r\n\t");
-    return end == std::string::npos ? "" : pText.substr(0, end + 1);
 }
 } // namespace
 
@@ -105,23 +93,8 @@ void znCAuthorGame::framesRun(s32 pCount)
 
 std::vector<std::string> znCAuthorGame::complaintsTake()
 {
-    std::vector<std::string> complaints;
-    bool taken = false; // the line before, whose message may go on
     const std::string log = mPlatform.logGet();
-    const std::string news = log.substr(std::min(std::exchange(mLogRead, log.size()), log.size()));
-    for (const std::string& line : znNText::linesGet(news))
-    {
-        const bool begins = line.starts_with("ERROR(") || line.starts_with("LOG(");
-        const auto message = begins ? line.find(") ") : std::string::npos;
-        if (begins)
-            taken = message != std::string::npos && line.find("ASSERT failure (") == std::string::npos &&
-                    !isAboutTheDevice(line);
-        if (begins && taken)
-            complaints.push_back(trimmed(line.substr(message + 2)));
-        else if (taken && !trimmed(line).empty())
-            complaints.back() += " " + trimmed(line);
-    }
-    return complaints;
+    return znNGameLog::complaintsGet(log.substr(std::min(std::exchange(mLogRead, log.size()), log.size())));
 }
 
 std::vector<znCAuthorGame::IdleSetting> znCAuthorGame::idleSettingsTake()

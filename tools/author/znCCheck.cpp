@@ -396,7 +396,7 @@ void znCCheck::wayCheck()
             mFaults.add(table, 0,
                         "nothing leads to the scene " + scene + "; name it as ACT1NextLev of another, or on the map");
         for (const std::string& next : ways)
-            if (mWays.count(next) == 0 && !mGame.fileExists(next) && !znNCodeLiterals::literalHas(next))
+            if (mWays.count(next) == 0 && !mGame.fileExists(next) && !znNCodeLiterals::literalHas(next) && !kept(next))
             {
                 const bool byTable = line != 0 && znNText::lineFind(mGame.textGet(table), next, true) != 0;
                 const std::string coords = SCENES + scene + "/coords.txt";

@@ -148,13 +148,17 @@ prerun = 4000 ;
 
 bool znCNewScene::nameCheck(const std::string& pName) const
 {
-    const bool spelt =
-        !pName.empty() && pName.find_first_not_of("abcdefghijklmnopqrstuvwxyz0123456789_") == std::string::npos;
+    const bool spelt = isName(pName);
     if (!spelt)
         std::fprintf(stderr, "'%s': a scene's name has small letters, digits and '_' only\n", pName.c_str());
     else if (fs::exists(mData / "scenes" / pName))
         std::fprintf(stderr, "there is a scene %s already\n", pName.c_str());
     return spelt && !fs::exists(mData / "scenes" / pName);
+}
+
+bool znCNewScene::isName(const std::string& pName)
+{
+    return !pName.empty() && pName.find_first_not_of("abcdefghijklmnopqrstuvwxyz0123456789_") == std::string::npos;
 }
 
 bool znCNewScene::make(const std::string& pName)
@@ -185,6 +189,11 @@ bool znCNewScene::make(const std::string& pName)
             "numHogItems = \"6\",\n"
             "-- What follows. Let another scene's ACT1NextLev lead here.\n"
             "ACT1NextLev = \"gui/mainMenu/mainMenu.txt\",\n");
+    return titleAdd(pName);
+}
+
+bool znCNewScene::titleAdd(const std::string& pName)
+{
     std::string title = pName;
     title[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(title[0])));
     return stringAdd(pName + "Title", title);
@@ -214,7 +223,7 @@ void znCNewScene::textWrite(const fs::path& pFile, const std::string& pText)
     mFiles.push_back(pFile);
 }
 
-// Every scene needs its title. Into the spreadsheet, or the table if there is no spreadsheet.
+// Into the spreadsheet, or the table if there is no spreadsheet.
 bool znCNewScene::stringAdd(const std::string& pKey, const std::string& pText)
 {
     const bool sheet = fs::exists(mData / "strings.xml");

@@ -17,6 +17,9 @@ public:
     // pName: small letters, digits and "_". False with a sentence on standard error if that can't be, or if there is
     // such a scene; nothing is written then.
     bool make(const std::string& pName);
+    // The scene's name as its title in the strings, which every scene needs.
+    bool titleAdd(const std::string& pName);
+    static bool isName(const std::string& pName);
     // All that was written, folders apart.
     const std::vector<std::filesystem::path>& filesGet() const { return mFiles; }
 

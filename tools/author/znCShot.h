@@ -24,7 +24,7 @@ public:
 
 private:
     bool screenExists(const std::string& pScreen) const;
-    bool programRun(const std::string& pScreen, const std::filesystem::path& pFolder) const;
+    void programRun(const std::string& pScreen, const std::filesystem::path& pFolder) const;
 
     std::filesystem::path mProgram;
     std::filesystem::path mData;
