@@ -67,7 +67,7 @@ def main(font, work, out):
     score.part("box", 10, 112, 68, 62)
     score.part("celesta", 8, 112, 50, 70)
     score.part("glass", 11, 124, 88, 90)
-    score.part("clarinet", 71, 92, 60, 66)
+    score.part("clarinet", 71, 80, 60, 66)
     score.part("pizzicato", 45, 108, 56, 50)
     score.part("harp", 46, 104, 40, 66)
     score.part("strings", 44, 104, 72, 80)
