@@ -76,6 +76,7 @@ TEST(znCWatchTest, theRunningGameOpensTheSceneAnew)
     EXPECT_EQ(middleGet(data, "shots/a.png"), 0x2060c0u);
     EXPECT_EQ(middleGet(data, "shots/b.png"), 0xc02020u) << "the picture's new colour";
     EXPECT_NE(middleGet(data, "shots/c.png"), 0xc02020u) << "moved aside";
+    EXPECT_EQ(complaints.size(), 1u) << "of what is wrong alone";
     ASSERT_EQ(std::count_if(complaints.begin(), complaints.end(),
                             [](const std::string& pComplaint)
                             { return pComplaint.find("scenes/attic/lost.png") != std::string::npos; }),

@@ -14,7 +14,8 @@
 namespace
 {
 namespace fs = std::filesystem;
-constexpr char LOG[] = "log.txt"; // of the player's folder
+constexpr char LOG[] = "log.txt";                              // of the player's folder
+constexpr char NEW_THINGS[] = "The stored state of the level"; // what an author adds was not there when it was stored
 constexpr std::chrono::milliseconds PAUSE(200);
 
 std::string textGet(const fs::path& pFile)
@@ -37,15 +38,15 @@ bool znCWatch::run(const std::string& pScene, const std::vector<std::string>& pO
     std::vector<std::string> arguments = {"--watch", "--data", mData.string(), "--user", user.pathGet().string()};
     arguments.insert(arguments.end(), pOptions.begin(), pOptions.end());
     arguments.insert(arguments.end(), {"--", pScene});
+    znCProgram game(mProgram, arguments);
     // An interrupt from the keyboard reaches the game too; what it leaves is cleared away here.
     const auto before = std::signal(SIGINT, SIG_IGN);
-    znCProgram game(mProgram, arguments);
     std::set<std::string> said;
     for (bool running = true; running;)
     {
         running = game.running();
         for (const std::string& complaint : znNGameLog::complaintsGet(textGet(user.pathGet() / LOG)))
-            if (said.insert(complaint).second)
+            if (!complaint.starts_with(NEW_THINGS) && said.insert(complaint).second)
                 pSay(complaint);
         if (running)
             std::this_thread::sleep_for(PAUSE);
