@@ -16,7 +16,7 @@ STAMP = "bnsl-cmn-postage_stamp"
 # scene: its task, the sound of it, how wide the light grows in pixels
 TASKS = {
     "quay": ("light_lantern", "lantern", 300),
-    "cabin": None,
+    "cabin": ("open_strong_box", "strongbox", 280),
     "galley": ("light_the_range", "fire", 420),
     "shop": ("wake_automaton", "automaton", 320),
     "lamproom": ("light_the_lamp", "greatlamp", 640),
@@ -84,13 +84,11 @@ def stamping():
 def main():
     flare()
     pack(postmark(), "common/postmark.png", 64)
-    for scene, task in TASKS.items():
+    for scene, (name, sound, width) in TASKS.items():
         if not os.path.isdir(os.path.join(DATA, "scenes", scene)):
             continue
         animation(f"scenes/{scene}/{STAMP}.xml", "stamp", stamping(), 50)
-        if task:
-            name, sound, width = task
-            animation(f"scenes/{scene}/tsk-{name}.xml", sound, lighting(width), 55)
+        animation(f"scenes/{scene}/tsk-{name}.xml", sound, lighting(width), 55)
 
 
 if __name__ == "__main__":

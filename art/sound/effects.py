@@ -184,8 +184,27 @@ def greatlamp():
     return reverberate(out, room(1.5, RANDOM, 4800), 0.28)
 
 
+def strongbox():
+    """The second key turns, the bolts go back, and an iron lid that has not been lifted for years is lifted."""
+    out = np.zeros((samples(2.4), 2))
+    for tooth in range(3):
+        put(out, stereo(struck(0.06, [(1350, 0.8, 0.03), (2900, 0.6, 0.02), (4700, 0.3, 0.012)], 0.0005), 0.2), 0.045 * tooth, 0.22)
+    put(out, stereo(struck(0.14, [(420, 1.0, 0.06), (980, 0.6, 0.045), (2100, 0.35, 0.03)], 0.0008), 0.2), 0.15, 0.42)
+    for at, gain in ((0.27, 1.0), (0.35, 0.7)):
+        put(out, stereo(struck(0.3, [(165, 1.0, 0.16), (330, 0.7, 0.12), (760, 0.45, 0.09), (1640, 0.25, 0.05)], 0.001)), at, 0.75 * gain)
+    at = 0.52
+    while at < 1.12:  # its hinge
+        share = (at - 0.52) / 0.60
+        put(out, stereo(struck(0.05, [(690 + 260 * share, 1.0, 0.035), (1730 + 500 * share, 0.5, 0.02)], 0.0006), 0.1), at,
+            0.24 * np.sin(np.pi * share) + 0.03)
+        at += RANDOM.uniform(0.8, 1.2) / (42 + 38 * np.sin(np.pi * share))
+    put(out, stereo(struck(0.25, [(118, 1.0, 0.15), (205, 0.6, 0.10), (470, 0.3, 0.06)], 0.002)), 1.14, 0.55)
+    chord(out, 0.90, (440.0, 554.37, 659.26, 880.0), 1.3, 0.36, 0.03)
+    return reverberate(out, room(0.6, RANDOM, 3800), 0.2)
+
+
 def main(out):
-    for make in (find, click, wrong, card, jigsaw, page, litter, returned, welldone, stamp, lantern, fire, automaton, greatlamp):
+    for make in (find, click, wrong, card, jigsaw, page, litter, returned, welldone, stamp, lantern, fire, automaton, greatlamp, strongbox):
         sound = master.peak_set(tail_cut(make()))
         master.write(f"{out}/{make.__name__}.wav", sound)
         print(f"{make.__name__}.wav: {len(sound) / master.RATE:.2f} s, {master.level(sound):.1f} dB RMS")
