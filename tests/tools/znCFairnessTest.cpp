@@ -44,7 +44,7 @@ TEST(znCFairnessTest, namesWhatIsUnfair)
         {"HOT-covered.png", "covered"},
         {"HOT-tiny.png", "too small"},
         {"HOT-camouflaged.png", "colour of its surroundings"},
-        {"HOT-beneath.png", "presses go to another"},
+        {"HOT-beneath.png", "presses go to another object: HOT-above.png"},
         {"HOT-above.png", nullptr},
         {"HOT-aside.png", "not on every screen"},
         {"HOT-low.png", "not on every screen"},

@@ -28,7 +28,7 @@ int check(const fs::path& pData)
     if (faults.empty())
         std::printf("%s: no faults\n", pData.generic_string().c_str());
     else
-        std::printf("%zu faults\n", faults.size());
+        std::printf("%zu %s\n", faults.size(), faults.size() == 1 ? "fault" : "faults");
     return faults.empty() ? 0 : 1;
 }
 

@@ -13,6 +13,7 @@ constexpr char ELEMENT_MARK[] = "The faults above are those of";
 
 // Of a find that no list has asked for, as when its effects are tried; and what the check of the lists says better.
 constexpr const char* LEFT_OUT[] = {"Failed to find an entry for", "Not enough entities in scene to fill"};
+constexpr char TOO_LARGE[] = "does not fit its box";
 constexpr char MISSING_STRING[] = "Missing string : ";
 
 bool leftOut(const std::string& pMessage)
@@ -31,7 +32,7 @@ struct Advice
 constexpr Advice ADVICE[] = {
     {"could not be read", "save it anew as PNG or JPEG"},
     {"multiple of 2", "add a row or a column of transparent pixels"},
-    {"does not fit its box", "make the box larger, or the text shorter"},
+    {TOO_LARGE, "make the box larger, or the text shorter"},
     {"Missing string", "add that key to strings.xml, or correct it here"},
     {"There is no close-up", "correct the number, or add the close-up's background"},
     {"there is no close-up", "correct the number, or add the close-up's background"},
@@ -75,6 +76,14 @@ std::vector<std::string> namesGet(const std::string& pMessage)
             names.push_back(word);
     }
     return names;
+}
+
+// The text that the message quotes, without the number of things behind it; "" if it quotes none.
+std::string textQuotedGet(const std::string& pMessage)
+{
+    static const std::regex FORM(".*\"([^\"]+?)(?:\\(\\d+\\))?\"[^\"]*");
+    std::smatch match;
+    return std::regex_match(pMessage, match, FORM) ? match[1].str() : "";
 }
 
 // The file that the message says is missing.
@@ -149,6 +158,10 @@ void znCComplaints::unplacedAdd(const std::string& pMessage, std::vector<std::st
 {
     const std::string missing = missingFileGet(pMessage, mGame);
     const std::string text = missing.empty() ? adviceAdded(pMessage) : missingTextGet(missing);
+    if (pMessage.find(TOO_LARGE) != std::string::npos)
+        for (const char* strings : {"strings.xml", "strings.txt"})
+            if (const s32 line = znNText::lineFind(mGame.textGet(strings), textQuotedGet(pMessage), true))
+                return mFaults.add(strings, line, text);
     for (const std::string& name : missing.empty() ? namesGet(pMessage) : std::vector{missing})
     {
         // A picture that stands on a page is wrong there.

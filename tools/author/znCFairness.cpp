@@ -16,6 +16,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <map>
 
 namespace
 {
@@ -221,6 +222,7 @@ void znCFairness::objectMeasure(const std::vector<Layer>& pLayers, std::size_t p
     s32 opaque = 0;
     s32 pressable = 0;
     s32 taken = 0;
+    std::map<std::string, s32> takers;
     s32 right = std::numeric_limits<s32>::min();
     s32 bottom = right;
     object.mLeft = object.mTop = std::numeric_limits<s32>::max();
@@ -233,8 +235,14 @@ void znCFairness::objectMeasure(const std::vector<Layer>& pLayers, std::size_t p
             };
             const u8 alpha = own.alphaGet(x, y);
             pressable += alpha > 0;
-            taken +=
-                alpha > 0 && above([&](const Layer& pOther) { return pOther.mPressable && pOther.alphaGet(x, y) > 0; });
+            if (alpha > 0)
+                for (std::size_t i = pLayers.size() - 1; i > pIndex; --i)
+                    if (pLayers[i].mPressable && pLayers[i].alphaGet(x, y) > 0)
+                    {
+                        ++taken;
+                        ++takers[pLayers[i].mEntity->nameGet()];
+                        break;
+                    }
             if (alpha < OPAQUE)
                 continue;
             ++opaque;
@@ -257,6 +265,9 @@ void znCFairness::objectMeasure(const std::vector<Layer>& pLayers, std::size_t p
         object.mLeft = std::max(own.mLeft, 0), object.mTop = std::max(own.mTop, 0);
     object.mInSight = opaque > 0 ? static_cast<double>(object.mArea) / opaque : 0.0;
     object.mOverlap = pressable > 0 ? static_cast<double>(taken) / pressable : 0.0;
+    for (const auto& [name, pixels] : takers)
+        if (object.mTaker.empty() || pixels > takers[object.mTaker])
+            object.mTaker = name;
     const s32 middleX = own.mLeft + own.mWidth / 2 - pCanvas.mWidth / 2;
     const s32 middleY = own.mTop + own.mHeight / 2 - pCanvas.mHeight / 2;
     judge(object, std::abs(middleX) <= SAFE_X && middleY <= SAFE_BOTTOM);
@@ -302,7 +313,7 @@ void znCFairness::colourMeasure(const std::vector<bool>& pMask, znSPicture& pCan
 
 void znCFairness::judge(Object& pObject, bool pSafe)
 {
-    const auto warn = [&pObject](bool pUnfair, const char* pText)
+    const auto warn = [&pObject](bool pUnfair, const std::string& pText)
     {
         if (pUnfair)
             pObject.mWarnings.push_back(pText);
@@ -312,7 +323,7 @@ void znCFairness::judge(Object& pObject, bool pSafe)
          "too small");
     warn(pObject.mArea > 0 && pObject.mOutline < OUTLINE_LEAST && pObject.mColour < COLOUR_LEAST,
          "the colour of its surroundings");
-    warn(pObject.mOverlap > OVERLAP_MOST, "presses go to another object");
+    warn(pObject.mOverlap > OVERLAP_MOST, "presses go to another object: " + pObject.mTaker);
     warn(!pSafe, "not on every screen: off the middle of 4:3, or under the panel");
 }
 

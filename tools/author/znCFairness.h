@@ -38,6 +38,7 @@ public:
         double mColour = 0.0;   // distance of the two mean colours (CIE 1976)
         double mOutline = 0.0;  // the same, across its outline, on average
         double mOverlap = 0.0;  // share of the pixels where a press would go to another object
+        std::string mTaker;     // the one that most of these go to; "": none
         std::vector<std::string> mWarnings;
         s32 mLeft = 0, mTop = 0; // of what is in sight, in the picture
     };

@@ -44,27 +44,6 @@ std::string extensionOf(const std::string& pName)
     return prefix == "TSK-" || prefix == "PAR-" ? "" : PICTURE;
 }
 
-// The area that isn't transparent, even in width and height; false if all is.
-bool boundsGet(const znSPicture& pPicture, s32& pX, s32& pY, s32& pWidth, s32& pHeight)
-{
-    s32 right = -1;
-    s32 bottom = -1;
-    pX = pPicture.mWidth;
-    pY = pPicture.mHeight;
-    for (s32 y = 0; y < pPicture.mHeight; ++y)
-        for (s32 x = 0; x < pPicture.mWidth; ++x)
-            if (pPicture.at(x, y)[3] != 0)
-            {
-                pX = std::min(pX, x);
-                pY = std::min(pY, y);
-                right = std::max(right, x);
-                bottom = std::max(bottom, y);
-            }
-    pWidth = right - pX + 1;
-    pHeight = bottom - pY + 1;
-    return right >= 0;
-}
-
 std::string lineGet(const std::string& pName, s32 pX, s32 pY)
 {
     return pName + "," + std::to_string(pX) + "," + std::to_string(pY) + "\n";
@@ -150,23 +129,18 @@ void znCImport::layerTake(znCOpenRaster::Layer& pLayer)
     std::string name;
     if (!nameRead(pLayer.mName, name))
         return;
-    s32 left, top, width, height;
-    if (!boundsGet(pLayer.mPicture, left, top, width, height))
+    znSPicture& picture = pLayer.mPicture;
+    if (picture.mPixels.empty())
     {
         mNotes.push_back("'" + pLayer.mName + "' is empty and left out");
         return;
     }
     if (!mNames.insert(znNText::lowerGet(name)).second)
         return wrong("two layers are called '" + name + "'; tell things of one kind apart by -m1 to -m9");
-    znSPicture picture(width + width % 2, height + height % 2);
-    for (s32 y = 0; y < height; ++y)
-        for (s32 x = 0; x < width; ++x)
-        {
-            std::copy_n(pLayer.mPicture.at(left + x, top + y), 4, picture.at(x, y));
-            picture.at(x, y)[3] = static_cast<u8>(picture.at(x, y)[3] * pLayer.mOpacity + 0.5);
-        }
-    mEntries.push_back({name, pLayer.mX + left + picture.mWidth / 2 - mWidth / 2,
-                        pLayer.mY + top + picture.mHeight / 2 - mHeight / 2});
+    for (std::size_t i = 3; i < picture.mPixels.size(); i += 4)
+        picture.mPixels[i] = static_cast<u8>(picture.mPixels[i] * pLayer.mOpacity + 0.5);
+    mEntries.push_back(
+        {name, pLayer.mX + picture.mWidth / 2 - mWidth / 2, pLayer.mY + picture.mHeight / 2 - mHeight / 2});
     if (!isPlaceOnly(name))
         mPictures[mFolder + znNText::lowerGet(name)] = std::move(picture);
 }

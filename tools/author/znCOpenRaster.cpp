@@ -59,6 +59,43 @@ bool opacityRead(const std::string& pText, double& pOpacity)
     const auto [end, error] = std::from_chars(pText.data(), pText.data() + pText.size(), pOpacity);
     return error == std::errc() && pOpacity >= 0.0 && pOpacity <= 1.0;
 }
+// The area that isn't transparent; false if all is.
+bool boundsGet(const znSPicture& pPicture, s32& pX, s32& pY, s32& pWidth, s32& pHeight)
+{
+    s32 right = -1;
+    s32 bottom = -1;
+    pX = pPicture.mWidth;
+    pY = pPicture.mHeight;
+    for (s32 y = 0; y < pPicture.mHeight; ++y)
+        for (s32 x = 0; x < pPicture.mWidth; ++x)
+            if (pPicture.at(x, y)[3] != 0)
+            {
+                pX = std::min(pX, x);
+                pY = std::min(pY, y);
+                right = std::max(right, x);
+                bottom = std::max(bottom, y);
+            }
+    pWidth = right - pX + 1;
+    pHeight = bottom - pY + 1;
+    return right >= 0;
+}
+
+// Cuts the layer to what is painted on it.
+void crop(znCOpenRaster::Layer& pLayer)
+{
+    s32 x, y, width, height;
+    if (!boundsGet(pLayer.mPicture, x, y, width, height))
+    {
+        pLayer.mPicture = znSPicture();
+        return;
+    }
+    znSPicture cut(width + width % 2, height + height % 2);
+    for (s32 row = 0; row < height; ++row)
+        std::copy_n(pLayer.mPicture.at(x, y + row), 4 * static_cast<std::size_t>(width), cut.at(0, row));
+    pLayer.mPicture = std::move(cut);
+    pLayer.mX += x;
+    pLayer.mY += y;
+}
 } // namespace
 
 bool znCOpenRaster::fail(const std::string& pWhy)
@@ -107,10 +144,17 @@ bool znCOpenRaster::archiveRead(const std::filesystem::path& pFile, znCAuthorGam
         return fail("has a list of layers, stack.xml, without an image of a width and height and a stack in it");
     if (!stackRead(*stack, {}, nullptr))
         return false;
+    std::size_t bytes = 0;
     for (Group& group : mGroups)
         for (Layer& layer : group.mLayers)
+        {
             if (!entryRead(archive.get(), layer.mSource, text) || !znNPng::decode(text, layer.mSource, layer.mPicture))
                 return fail("has no readable picture " + layer.mSource + " for its layer '" + layer.mName + "'");
+            crop(layer);
+            bytes += layer.mPicture.mPixels.size();
+            if (bytes > PICTURES_MAX_BYTES)
+                return fail("has too many large layers for one scene");
+        }
     return true;
 }
 

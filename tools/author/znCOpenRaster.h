@@ -18,15 +18,17 @@ public:
     static constexpr s64 ENTRY_MAX_BYTES = 256 * 1024 * 1024; // of one file in the archive, unpacked
     static constexpr s32 DEPTH_MAX = 32;                      // of groups within groups
     static constexpr std::size_t LAYERS_MAX = 4000;
+    static constexpr std::size_t PICTURES_MAX_BYTES = std::size_t(1) << 30; // of all layers, as they are kept
 
     struct Layer
     {
         std::string mName;
-        s32 mX = 0; // of its corner on the canvas
+        s32 mX = 0; // of the picture's corner on the canvas
         s32 mY = 0;
         double mOpacity = 1.0; // 0 to 1, with that of the groups around it
-        znSPicture mPicture;   // its opacity is not in it
-        std::string mSource;   // in the archive
+        // Cut to what isn't transparent, even in width and height; of no size if all is. The opacity is not in it.
+        znSPicture mPicture;
+        std::string mSource; // in the archive
     };
 
     // The layers outside all groups, or those of an outermost group with all that is in it; the lowest first.
