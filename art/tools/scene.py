@@ -235,8 +235,10 @@ def coverage(p):
     return dict(covers)
 
 
-def grade(source, target):
-    subprocess.check_call(['tools/grade', source, target])
+def grade(p, source, target):
+    """By the scene's own curve if it has one."""
+    own = f'scenes/{p.scene}/grade'
+    subprocess.check_call([own if os.path.exists(own) else 'tools/grade', source, target])
 
 
 def sprite(full, bare, cover):
@@ -330,7 +332,7 @@ def block_write(p, lines):
 def cut(p):
     os.makedirs(p.target, exist_ok=True)
     for name in ('bare', 'full'):
-        grade(f'{p.work}/{name}.png', f'{p.work}/{name}_graded.png')
+        grade(p, f'{p.work}/{name}.png', f'{p.work}/{name}_graded.png')
         framed(p, f'{p.work}/{name}_graded.png').save(f'{p.work}/{name}_graded.png')
     empty, dressed = pixels(f'{p.work}/bare_graded.png'), pixels(f'{p.work}/full_graded.png')
     bare_picture = Image.open(f'{p.work}/bare_graded.png').convert('RGB')
@@ -345,7 +347,7 @@ def cut(p):
     covers, clean = coverage(p), covers_clean(p)
     for number, name, where in things(p):
         if os.path.exists(f'{p.work}/solo{number}.png'):
-            grade(f'{p.work}/solo{number}.png', f'{p.work}/graded{number}.png')
+            grade(p, f'{p.work}/solo{number}.png', f'{p.work}/graded{number}.png')
             framed(p, f'{p.work}/graded{number}.png').save(f'{p.work}/graded{number}.png')
             colour, alpha = sprite(pixels(f'{p.work}/graded{number}.png'), empty, clean[number])
         else:
