@@ -5,7 +5,7 @@
 #ifndef(SHOW) #declare SHOW=-1; #end
 #ifndef(BOUNCE) #declare BOUNCE=0; #end
 global_settings{assumed_gamma 1.0 max_trace_level 6
- #if(BOUNCE) radiosity{pretrace_start .08 pretrace_end .04 count 20 nearest_count 5 error_bound 1.2 recursion_limit 1 low_error_factor .7 gray_threshold .15 minimum_reuse .02 brightness .8} #end}
+ #if(BOUNCE) radiosity{pretrace_start .08 pretrace_end .04 count 30 nearest_count 5 error_bound 1.2 recursion_limit 1 low_error_factor .7 gray_threshold .15 minimum_reuse .02 brightness .5} #end}
 #include "povray/props.inc"
 #include "povray/props/harbour.inc"
 #include "scenes/lamproom/light.inc"

@@ -2,8 +2,8 @@
 #version 3.7;
 #include "scenes/lamproom/closeups/night.inc"
 camera{location<0,2.2,-30> right x*.522 up y*.522*520/760 direction<0,-.0733,1>}
-light_source{<-17,22,-26> MoonCol*1.5 area_light x*4,y*4,3,3 adaptive 0 circular orient}
-light_source{<13,-1,-13> LanternCol*1.35 area_light x*2,y*2,2,2 adaptive 0 fade_distance 20 fade_power 2}
+light_source{<-17,22,-26> MoonCol*1.75 area_light x*4,y*4,3,3 adaptive 0 circular orient}
+light_source{<13,-1,-13> LanternCol*1.0 area_light x*2,y*2,2,2 adaptive 0 fade_distance 20 fade_power 2}
 light_source{<2,6,-34> NightCol*.55 shadowless}
 #declare FloorY=-4.1; #declare Sd=seed(81);
 #declare T_Case=texture{Metal(<.20,.27,.31>,.08,.06,.7)}
@@ -28,7 +28,7 @@ union{#for(s,-1,1,2) object{#local P=array[11]{<.55,0>,<.55,.3>,<.34,.5>,<.26,.9
 #for(s,-1,1,2) sphere{<s*6.45,4.42,1.2>,.2 texture{T_Gold}} #end
 // ---------------- drum with its rope, the rope down to the weight
 union{cylinder{<-5.6,0,0>,<.4,0,0>,.85 texture{T_Oak}} #for(i,0,15) torus{.98,.17 rotate z*90 translate x*(-5.0+i*.32) texture{T_Rope}} #end #for(s,0,1) cylinder{<-5.6+s*5.75,0,0>,<-5.35+s*5.75,0,0>,1.42 texture{T_Brass}} torus{1.4,.10 rotate z*90 translate x*(-5.47+s*5.75) texture{T_Gold}} #end
- cylinder{<-7.4,0,0>,<1.6,0,0>,.2 texture{T_Steel}} translate<0,-1.75,1.6>}
+ cylinder{<-7.4,0,0>,<.85,0,0>,.2 texture{T_Steel}} translate<0,-1.75,1.6>}
 // ---------------- governor: spindle, arms and balls
 union{cylinder{<0,-1.3,0>,<0,1.7,0>,.11 texture{T_Steel}} #for(s,-1,1,2) cylinder{<0,1.35,0>,<s*.9,.25,0>,.07 texture{T_Brass}} sphere{<s*.95,.15,0>,.38 texture{T_Gold}} cylinder{<s*.9,.25,0>,<0,-.75,0>,.05 texture{T_Brass}} #end cylinder{<0,-.95,0>,<0,-.6,0>,.26 texture{T_Brass}} sphere{<0,1.75,0>,.2 texture{T_Brass}} translate<5.75,2.55,1.6>}
 // ---------------- crank at the left, oiler cups, a plate with the maker's instruction
