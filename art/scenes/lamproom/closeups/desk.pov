@@ -1,11 +1,12 @@
 // The keeper's desk, seen from above: the log on its slope, the drawer pulled out.  1 unit = 10 cm; the top is y=0 and is tilted towards the viewer.
 #version 3.7;
+#declare Bounced=.45;
 #include "scenes/lamproom/closeups/night.inc"
-camera{location<0,0,-30> right x*.522 up y*.522*520/760 direction<0,0,1>}
+camera{location<0,-.55,-30> right x*.522 up y*.522*520/760 direction<0,0,1>}
 #declare Tilt=-50;
-light_source{<-17,22,-24> MoonCol*1.55 area_light x*4,y*4,3,3 adaptive 0 circular orient}
-light_source{<13,7,-9> LanternCol*1.5 area_light x*2,y*2,2,2 adaptive 0 fade_distance 17 fade_power 2}
-light_source{<2,8,-34> NightCol*.5 shadowless}
+light_source{<-17,22,-24> MoonCol*.92 area_light x*4,y*4,3,3 adaptive 0 circular orient}
+light_source{<13,7,-9> LanternCol*1.0 area_light x*2,y*2,2,2 adaptive 0 fade_distance 17 fade_power 2}
+light_source{<2,8,-34> NightCol*.36 shadowless}
 #macro Lay(O,Size,Back,Turn,P) object{O scale Size rotate x*Back rotate y*Turn translate P rotate x*Tilt} #end
 #declare Sd=seed(91); #declare DrawerY=-1.5;
 union{
