@@ -16,6 +16,7 @@ The Petrel Mail, a hidden-object adventure.
 Folders:
   --data DIR               the game's data
   --user DIR               saved games and the log
+  --watch                  open the scene anew when files of its data change
 
 Picture:
   --windowed, --fullscreen start so, whatever was chosen last
@@ -110,6 +111,7 @@ void runOptionsAdd(CLI::App& pApp, Texts& pTexts, znCOptions& pOptions)
         ->excludes("--touch")
         ->excludes("--windowed")
         ->excludes("--fullscreen");
+    pApp.add_flag("--watch", pOptions.mWatch)->excludes("--record")->excludes("--replay");
     pApp.add_option("--set", pTexts.mSettings)->take_all()->allow_extra_args(false)->check(settingCheck);
 }
 

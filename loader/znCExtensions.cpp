@@ -183,6 +183,16 @@ s3eSound soundTable()
     return table;
 }
 
+s3eAuthor authorTable()
+{
+    s3eAuthor table = {};
+    table.changeCallbackSet = [](s3eCallback pCallback, void* pUserData)
+    {
+        sLoader->changeCallbackSet(pCallback, pUserData);
+    };
+    return table;
+}
+
 template <class Table>
 s3eResult tableCopy(const Table& pFrom, void* pTo, u32 pBytes)
 {
@@ -209,5 +219,7 @@ s3eResult znCExtensions::tableGet(u32 pHash, void* pTable, u32 pBytes)
         return tableCopy(drawTable(), pTable, pBytes);
     if (pHash == S3E_SOUND_HASH)
         return tableCopy(soundTable(), pTable, pBytes);
+    if (pHash == S3E_AUTHOR_HASH && sLoader->isWatching())
+        return tableCopy(authorTable(), pTable, pBytes);
     return S3E_RESULT_ERROR;
 }

@@ -47,7 +47,7 @@ s32 znCLoader::run()
 {
     const bool started = recordingRead() && dataFolderFind() && scriptRead() && shotsPrepare() &&
                          mModule.open(mProgramFolder / MODULE, mError) && servicesMake() && windowOpen() &&
-                         audioOpen() && recordingStart();
+                         audioOpen() && recordingStart() && watchStart();
     if (!started)
     {
         znNReport::lineWrite("%s", mError.c_str());
@@ -217,6 +217,23 @@ bool znCLoader::recordingStart()
     return mRecorder.open(mOptions.mRecord, header, mError);
 }
 
+bool znCLoader::watchStart()
+{
+    return !mOptions.mWatch || mWatch.open(mOptions.mDataFolder, mError);
+}
+
+void znCLoader::changeCallbackSet(s3eCallback pCallback, void* pUserData)
+{
+    mChangeCallback = pCallback;
+    mChangeUserData = pUserData;
+}
+
+void znCLoader::changeReport()
+{
+    if (mOptions.mWatch && mWatch.changeTake() && mChangeCallback != nullptr)
+        mChangeCallback(nullptr, mChangeUserData);
+}
+
 void znCLoader::pace(s32 pMs)
 {
     if (mClock->isVirtual() || (mReplayer.has_value() && mOptions.mHeadless))
@@ -271,6 +288,7 @@ void znCLoader::frameBoundary(s32 pMs)
         mRecorder.eventAdd(event);
         eventDeliver(event);
     }
+    changeReport();
 }
 
 void znCLoader::eventDeliver(const znCInputEvent& pEvent)

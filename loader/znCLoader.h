@@ -5,6 +5,7 @@
 #include "loader/znCConfig.h"
 #include "loader/znCDevice.h"
 #include "loader/znCFiles.h"
+#include "loader/znCFolderWatch.h"
 #include "loader/znCFramePacer.h"
 #include "loader/znCGlContext.h"
 #include "loader/znCInputQueue.h"
@@ -49,6 +50,10 @@ public:
     // s3eOSExec
     bool urlOpen(const std::string& pUrl, bool pExit);
 
+    bool isWatching() const { return mOptions.mWatch; }
+    // Of petrelAuthor.
+    void changeCallbackSet(s3eCallback pCallback, void* pUserData);
+
     const znCClock& clockGet() const { return *mClock; }
     const znCConfig& configGet() const { return mConfig; }
     znCDevice& deviceGet() { return mDevice; }
@@ -71,12 +76,14 @@ private:
     bool windowOpen();
     bool audioOpen();
     bool recordingStart();
+    bool watchStart();
 
     std::filesystem::path userFolderGet() const;
     bool displayModesChoose(znCDisplayModes& pModes);
     void pace(s32 pMs);
     void liveFrameTake();
     void replayedFrameTake();
+    void changeReport();
     void eventDeliver(const znCInputEvent& pEvent);
     std::optional<std::string> liveTextAsk(const std::string& pPrompt, const std::string& pDefault);
     void shotTake(const std::string& pName);
@@ -90,6 +97,9 @@ private:
     std::vector<znCInputEvent> mLateReleases; // that a text dialog saw; the module sees them in the next frame
     znCInputScript mScript;
     znCShotWriter mShots;
+    znCFolderWatch mWatch;
+    s3eCallback mChangeCallback = nullptr;
+    void* mChangeUserData = nullptr; // the module's
     znCModule mModule;
     znCRecorder mRecorder;
     std::optional<znCReplayer> mReplayer;

@@ -26,6 +26,7 @@ struct znCOptions
     s32 mHeight = 0;
     bool mTouch = false;
     bool mHeadless = false;
+    bool mWatch = false; // the data folder, for changes
     s32 mStepMs = 0;          // 0: the real clock
     std::optional<u64> mSeed; // what the clock says at start
     u64 mFrameLimit = 0;      // 0: none

@@ -19,6 +19,10 @@ protected:
 
 private:
     CGameSpecificMain() = default;
+    // Where the loader tells that data has changed, the scene opens anew.
+    static void changesFollow();
+    // The level that is played, or the scene that the program was started for, from its changed files.
+    static void sceneReopen();
 };
 
 #endif

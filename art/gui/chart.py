@@ -308,7 +308,7 @@ def voyage_chart(places):
     beast = chart.place(108, 44, (960, 700))
     labels = [chart.label("The Grey Sound", 40, (390, 440), space=5, turn=-3), chart.label("Gannet Bank", 24, (460, 90)), chart.label("Kelpie Race", 24, (700, 690)),
               chart.label("Bay of Bells", 22, (780, 200)), chart.label("Corran", 34, (1240, 420), True, False, 5, "Goudy Bookletter 1911"), chart.label("Tern Isle", 24, (620, 380), True),
-              chart.label("Bell Haven", 20, (1010, 440), True, False), chart.label("Port Merrow", 22, (1100, 400), True, False), chart.label("Lamp Head", 22, (150, 240), True, False),
+              chart.label("Bell Haven", 20, (1100, 390), True, False), chart.label("Port Merrow", 22, (1240, 500), True, False), chart.label("Lamp Head", 22, (150, 240), True, False),
               chart.label("Skerry Point", 20, (890, 560), True)]
     chart.country()
     chart.rose(*rose, 92)

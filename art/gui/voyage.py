@@ -117,8 +117,9 @@ def shop(pen):
 
 
 def lamproom(pen):
-    """The great light of Tern Isle; 148 x 160."""
-    pen.light(74, 38, 52)
+    """The great light of Tern Isle; 148 x 176."""
+    pen.body += '<g transform="translate(0,16)">'
+    pen.light(74, 38, 46)
     pen.shape("M30 144Q40 130 58 132Q76 124 96 132Q112 130 122 146Q96 152 74 150Q48 152 30 144Z", "#8a8f78", 1.6)
     pen.shape("M58 138L64 60H84L90 138Z", "#f1e4c4", 1.7)
     for y0, y1 in ((72, 88), (104, 120)):
@@ -131,6 +132,7 @@ def lamproom(pen):
     pen.line("M71 28V53M77 28V53", 1.1)
     pen.shape("M60 28H88L74 13Z", "#a03a28", 1.5)
     pen.line("M74 13V6", 1.6)
+    pen.body += "</g>"
 
 
 def steamer(pen):
@@ -216,11 +218,11 @@ def stove_and_pots(pen):
 PLACES = {
     "quay": (CHART, quay, (148, 128), (1098, 478)),
     "shop": (CHART, shop, (148, 128), (975, 350)),
-    "lamproom": (CHART, lamproom, (148, 160), (640, 228)),
+    "lamproom": (CHART, lamproom, (148, 176), (640, 236)),
     "cabin": (SHIP, bunk_and_desk, (196, 112), (552, 234)),
     "galley": (SHIP, stove_and_pots, (158, 112), (334, 234)),
 }
-CALLED_AT = ("quay", "cabin")
+CALLED_AT = ("quay", "cabin", "galley", "shop", "lamproom")
 STEAMER_SIZE, STEAMER = (188, 142), (712, 518)
 SHIP_PLACE = (0, -60)  # of the close-up, from the canvas's middle: clear of the panel below
 
@@ -307,9 +309,8 @@ def hull_plan():
     pen.body = ""
     # deckhouses, wheelhouse, funnel; rooms that can be visited are laid over the windows
     pen.box(240, 172, 428, 130, "#e9dcb8", 2)
-    for x in (264, 302, 378, 478, 516, 554, 592, 630):
+    for x in (264, 302, 340, 378, 478, 516, 554, 592, 630):
         pen.window(x, 206, 20, 26)
-    pen.box(332, 212, 32, 82, "#8f5a2c", 1.6)
     pen.box(424, 212, 32, 82, "#8f5a2c", 1.6)
     pen.box(230, 164, 448, 10, "#a9743c", 1.6)
     pen.box(528, 100, 112, 66, "#c48a50", 2)
@@ -352,16 +353,28 @@ def entries(scene):
     return [f"MASK-{scene}-g.png,{x},{y}", f"NAV-{scene}.png,{x},{y}", f"MASK-{scene}-r.png,{x},{y}", f"MASK-{scene}-p.png,{medal_x},{medal_y}"]
 
 
+def sketch(picture, size):
+    """A place as the chart shows it, lit, on a leaf of its own: for a place whose room is still to be built."""
+    pen = Pen(True)
+    picture(pen)
+    scale = min(164 / size[0], 122 / size[1])
+    ground = '<rect width="180" height="136" fill="#f0e0b6"/><path d="M0 92Q46 84 90 92T180 90V136H0Z" fill="#7fa9a6" opacity=".35"/>'
+    return raster(180, 136, f'{ground}<g transform="translate({90 - size[0] * scale / 2:.1f},{68 - size[1] * scale / 2:.1f}) scale({scale:.3f})">'
+                            f'<g filter="url(#rough)">{pen.body}</g></g>', DEFS)
+
+
 def thumbnail(scene):
     """The middle of a scene's room, 180 x 136."""
     path = os.path.join(DATA, f"scenes/{scene}/background{scene}.jpg")
-    if not os.path.exists(path):
-        print(f"{scene} has no room yet: its thumbnail stays as it is")
-        return
-    room = Image.open(path)
-    width = room.height * 180 / 136
-    left = (room.width - width) / 2
-    pack(room.resize((180, 136), Image.LANCZOS, (left, 0, left + width, room.height)).convert("RGBA"), f"gui/maphud/mapthumbs/{scene}.png", 256)
+    if os.path.exists(path):
+        room = Image.open(path)
+        width = room.height * 180 / 136
+        left = (room.width - width) / 2
+        small = room.resize((180, 136), Image.LANCZOS, (left, 0, left + width, room.height)).convert("RGBA")
+    else:
+        print(f"{scene} has no room yet: its thumbnail is a sketch")
+        small = sketch(PLACES[scene][1], PLACES[scene][2])
+    pack(small, f"gui/maphud/mapthumbs/{scene}.png", 256)
 
 
 def main():

@@ -85,7 +85,8 @@ def music(score, name, cycle_beats, font, work, out, decibel=-19.0, file=None):
     if np.abs(sound).max() > 0.99:
         sys.exit(f"{name}: the synthesiser clips; lower its gain")
     seconds = score.seconds(cycle_beats)
-    loop = loudness_set(cycle_cut(sound, seconds), decibel)
+    cycle = cycle_cut(sound, seconds)
+    loop = loudness_set(cycle - cycle.mean(axis=0), decibel)  # some instruments of the set sit off the middle
     write(f"{work}/{name}.wav", loop)
     file = file or f"{name}.ogg"
     encode(f"{work}/{name}.wav", f"{out}/{file}")

@@ -27,6 +27,7 @@ const std::map<std::string, std::set<std::string>> ALLOWED = {
     {"tests", {}},
     {"fuzz", {}},
     {"bench", {}},
+    {"tools", {}},
 };
 
 // What the game's start is measured against is a program of its own.

@@ -101,6 +101,8 @@ TEST(znCCommandLineTest, WrongOptionsGetOneLine)
         {"--windowed", "--fullscreen"},
         {"--replay", "r", "--script", "s"},
         {"--replay", "r", "--seed", "1"},
+        {"--watch", "--record", "r"},
+        {"--watch", "--replay", "r"},
     };
     for (const std::vector<const char*>& arguments : cases)
     {

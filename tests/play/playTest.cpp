@@ -5,7 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <fstream>
+#include <sstream>
 
 namespace fs = std::filesystem;
 
@@ -164,6 +166,71 @@ TEST(playTest, fitsTheDisplayThatItMeets)
         EXPECT_EQ(picture.mWidth, c.mWidth) << c.mWhat;
         EXPECT_EQ(picture.mHeight, c.mHeight) << c.mWhat;
         EXPECT_EQ(collectedCountGet(run), 1u) << c.mWhat;
+    }
+}
+
+// Two players sign on, one is struck off again, the other sails on: on every kind of display.
+TEST(playTest, walksThroughTheMenusOnEveryDisplay)
+{
+    struct Case
+    {
+        const char* mWhat;
+        std::vector<std::string> mOptions;
+        s32 mMiddleX, mMiddleY;
+        double mScaleX, mScaleY; // pixels of the picture a pixel of the canvas
+    };
+    const Case cases[] = {
+        {"window", {"--windowed"}, 683, 384, 1, 1},
+        {"full screen", {"--fullscreen", "--set", "s3e.DisplayModes=1920x1080"}, 960, 540, 1080 / 768.0, 1080 / 768.0},
+        {"only 4:3", {"--windowed", "--set", "s3e.DisplayModes=800x600,1024x768"}, 512, 384, 1, 1},
+        {"an upright device", {"--touch", "--size", "480x800"}, 400, 240, 800 / 1366.0, 480 / 768.0},
+    };
+    for (const Case& c : cases)
+    {
+        SCOPED_TRACE(c.mWhat);
+        std::ostringstream script;
+        const auto press = [&](s32 pX, s32 pY, s32 pWait)
+        {
+            script << "tap " << std::lround(c.mMiddleX + pX * c.mScaleX) << ' '
+                   << std::lround(c.mMiddleY + pY * c.mScaleY) << "\nwait " << pWait << '\n';
+        };
+        const auto sign = [&](const char* pName)
+        {
+            press(-60, -96, 1); // the field, which asks a player without keys
+            script << "type " << pName << "\nwait 200\n";
+            press(196, 169, 2000); // "Aye", and into the scene
+        };
+        const auto crewOpen = [&]
+        {
+            press(476, -349, 600); // the menu
+            press(0, 100, 2000);   // "To the title page"
+            press(100, 219, 500);  // "The crew"
+        };
+        script << "wait 900\n";
+        for (const s32 wait : {1100, 1100, 900}) // the cards
+            press(0, -284, wait);
+        press(196, 169, 400); // no name yet
+        press(0, 104, 400);   // and a warning
+        sign("Anna");
+        crewOpen();
+        press(0, 179, 500); // "Sign on"
+        sign("Bea");
+        crewOpen();
+        press(-205, 179, 400); // "Strike off"
+        press(-125, 96, 400);  // "Yes"
+        press(205, 179, 400);  // "Aye": Anna
+        press(215, 142, 2000); // "Continue the voyage"
+        GameRun run("menus");
+        std::vector<std::string> options = c.mOptions;
+        options.insert(options.end(), {"--step", "64"});
+        options.insert(options.end(), {"--script", run.scriptWrite(script.str() + "quit\n")});
+        ASSERT_EQ(run.headlessRun(options), 0) << run.errorGet();
+        EXPECT_EQ(run.errorGet(), "");
+        EXPECT_EQ(logFaultsGet(run.logGet()), std::vector<std::string>());
+        const std::string crew = run.userFileGet("global.txt");
+        EXPECT_NE(crew.find("profilename0 = \"Anna\""), std::string::npos) << crew;
+        EXPECT_NE(crew.find("numprofiles = \"1\""), std::string::npos) << crew;
+        EXPECT_NE(run.userFileGet("user0.txt").find("currlev = \"quay\""), std::string::npos);
     }
 }
 

@@ -92,6 +92,7 @@ s32 znCTestFiles::operationCountGet(Operation pOperation) const
 const std::string* znCTestFiles::contentFind(const std::string& pName) const
 {
     std::string name = normalisedGet(pName);
+    mAsked.insert(name);
     const bool formerWanted = onDrive(name) && name.ends_with(FORMER_MARK);
     if (formerWanted)
         name.pop_back();

@@ -56,6 +56,8 @@ public:
     // the file pName count; without a name those on every file but the log. One fault an operation.
     void faultSet(Operation pOperation, s32 pNth, s32 pCount = 1, const std::string& pName = "");
     void faultsClear() { mFaults.clear(); }
+    // The names that somebody asked for, to read or to see whether they are there; missing ones too.
+    const std::set<std::string>& askedGet() const { return mAsked; }
     s32 openCountGet() const { return static_cast<s32>(mOpen.size()); } // handles that nobody closed
     s32 operationCountGet(Operation pOperation) const;                  // calls so far, the log's left out
 
@@ -91,6 +93,7 @@ private:
     std::map<s3eFileList*, std::unique_ptr<s3eFileList>> mLists;
     std::map<Operation, Fault> mFaults;
     std::map<Operation, s32> mCounts;
+    mutable std::set<std::string> mAsked;
 };
 
 #endif

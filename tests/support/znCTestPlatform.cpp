@@ -330,6 +330,11 @@ void znCTestPlatform::configSet(const std::string& pGroup, const std::string& pN
     mConfig[{pGroup, pName}] = pValue;
 }
 
+void znCTestPlatform::configRemove(const std::string& pGroup, const std::string& pName)
+{
+    mConfig.erase({pGroup, pName});
+}
+
 s3eResult znCTestPlatform::configGet(const char* pGroup, const char* pName, char* pValue) const
 {
     const auto found = mConfig.find({pGroup, pName});

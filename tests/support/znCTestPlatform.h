@@ -42,6 +42,7 @@ public:
 
     // Configuration values by group and name.
     void configSet(const std::string& pGroup, const std::string& pName, const std::string& pValue);
+    void configRemove(const std::string& pGroup, const std::string& pName);
 
     // Adds or replaces an extension that s3eExtGetHash finds; the table is copied.
     void extensionSet(u32 pHash, const void* pTable, u32 pBytes);

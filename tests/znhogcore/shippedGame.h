@@ -5,10 +5,15 @@
 // a time.
 
 #include "tests/znhogcore/znCHogTestProgram.h"
+#include "znappcore/components/znCSpriteComponent.h"
+#include "znappcore/znIDisplay.h"
 #include "zncore/znNCoreUtils.h"
+
+#include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <map>
 #include <sstream>
 #include <string>
@@ -76,9 +81,80 @@ public:
         pointer(false, pTo);
     }
 
+    // The program is killed and starts again: what had reached the disk is all that is left.
+    void crash(u32 pSeed)
+    {
+        std::map<std::string, std::string> disk;
+        for (const std::string& name : userFilesGet())
+            disk[name] = mPlatform.mFiles.fileGet(name);
+        stop();
+        for (const std::string& name : userFilesGet())
+            mPlatform.mFiles.fileRemove(name);
+        for (const auto& [name, content] : disk)
+            mPlatform.mFiles.fileSet(name, content);
+        start();
+        znNCoreUtils::randomSeedSet(pSeed);
+    }
+
+    void menuOpen()
+    {
+        znCHogCoreMain::instanceGet()->nextScreenSet(znCHogCoreMain::MAIN_MENU_FILE);
+        framesRun(2 * SECOND);
+    }
+
+    // Everything on view, what lies behind first.
+    static void nodesVisit(znINode* pNode, const std::function<void(znCEntity&)>& pVisitor)
+    {
+        if (!pNode->activeGet())
+            return;
+        if (auto* entity = dynamic_cast<znCEntity*>(pNode))
+            pVisitor(*entity);
+        for (std::size_t i = 0; i < pNode->childrenGet().size(); ++i)
+            nodesVisit(pNode->childrenGet()[i], pVisitor);
+    }
+
+    // The entity of that name on view, of several the one in front.
+    static znCEntity* shownFind(const std::string& pName)
+    {
+        znCEntity* found = nullptr;
+        nodesVisit(znIDisplay::instanceGet(),
+                   [&](znCEntity& pEntity)
+                   {
+                       if (pEntity.nameGet() == pName)
+                           found = &pEntity;
+                   });
+        return found;
+    }
+
+    // Presses the middle of a control on view.
+    void press(const std::string& pControl)
+    {
+        znCEntity* control = shownFind(pControl);
+        ASSERT_NE(control, nullptr) << pControl;
+        const znPoint middle = control->worldPosGet();
+        EXPECT_TRUE(control->componentFind<znCSpriteComponent>()->hitTest(middle, false)) << pControl << " has a hole";
+        EXPECT_TRUE(middle.mX >= 683 - 512 && middle.mX < 683 + 512) << pControl << " is off a screen of 4:3";
+        tap(middle);
+        framesRun(3 * SECOND);
+    }
+
+    void type(const std::string& pText)
+    {
+        mPlatform.mInput.textQueue(pText);
+        s3eKeyboardUpdate();
+        framesRun(2);
+    }
+
     s32 mFrames = 0;
 
 private:
+    std::vector<std::string> userFilesGet() const
+    {
+        std::vector<std::string> names = mPlatform.mFiles.namesGet();
+        std::erase_if(names, [](const std::string& pName) { return !pName.starts_with("ram://"); });
+        return names;
+    }
+
     // All files but the sounds, read once.
     static const std::map<std::string, std::string>& dataGet()
     {

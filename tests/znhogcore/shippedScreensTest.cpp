@@ -5,17 +5,14 @@
 #include "znappcore/components/gui/elements/znCButtonComponent.h"
 #include "znappcore/components/gui/elements/znCCheckBoxComponent.h"
 #include "znappcore/components/gui/znIGuiComponent.h"
-#include "znappcore/components/znCSpriteComponent.h"
 #include "znappcore/components/znCTextEntryComponent.h"
 #include "znappcore/src/znCProfileManager.h"
-#include "znappcore/znIDisplay.h"
 #include "znhogcore/src/znCHogMessageDispatcher.h"
 #include "znhogcore/src/znCHogUserSavedData.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <functional>
 #include <map>
 #include <set>
 
@@ -26,16 +23,6 @@ constexpr char MAIN_MENU[] = "MainMenuGui";
 constexpr char NAME_TYPED[] = "(a name is typed)";
 constexpr char ASHORE[] = "(the game has ended)";
 
-void nodesVisit(znINode* pNode, const std::function<void(znCEntity&)>& pVisitor)
-{
-    if (!pNode->activeGet())
-        return;
-    if (auto* entity = dynamic_cast<znCEntity*>(pNode))
-        pVisitor(*entity);
-    for (std::size_t i = 0; i < pNode->childrenGet().size(); ++i)
-        nodesVisit(pNode->childrenGet()[i], pVisitor);
-}
-
 // Everything on view that bears a GUI, and the level's name: what a player would call the screen.
 std::string screenGet()
 {
@@ -44,18 +31,18 @@ std::string screenGet()
         znIHogLevel::levelGet() != nullptr ? znIHogLevel::NAME : MAIN_MENU);
     if (display == nullptr)
         return screen + " (nothing stands)";
-    nodesVisit(display->parentGet(),
-               [&](znCEntity& pEntity)
-               {
-                   const std::string& name = pEntity.nameGet();
-                   if (const auto* entry = pEntity.componentGet<znCTextEntryComponent>())
-                       screen += entry->textGet().empty() ? "" : " signed";
-                   if (znIGuiComponent::guiComponentGet(&pEntity) == nullptr || name.empty() ||
-                       name.starts_with("pickItem") || name.starts_with("ChoosePlayerProfile") ||
-                       name == "NotificationsGui" || name.find("ickList") != std::string::npos)
-                       return;
-                   screen += (screen.empty() ? "" : " ") + name;
-               });
+    ShippedGame::nodesVisit(display->parentGet(),
+                            [&](znCEntity& pEntity)
+                            {
+                                const std::string& name = pEntity.nameGet();
+                                if (const auto* entry = pEntity.componentGet<znCTextEntryComponent>())
+                                    screen += entry->textGet().empty() ? "" : " signed";
+                                if (znIGuiComponent::guiComponentGet(&pEntity) == nullptr || name.empty() ||
+                                    name.starts_with("pickItem") || name.starts_with("ChoosePlayerProfile") ||
+                                    name == "NotificationsGui" || name.find("ickList") != std::string::npos)
+                                    return;
+                                screen += (screen.empty() ? "" : " ") + name;
+                            });
     return screen;
 }
 
@@ -63,16 +50,16 @@ std::string screenGet()
 std::vector<std::string> controlsGet()
 {
     std::vector<std::string> controls;
-    nodesVisit(znIDisplay::instanceGet(),
-               [&](znCEntity& pEntity)
-               {
-                   const bool control = pEntity.componentFind<znCButtonComponent>() != nullptr ||
-                                        pEntity.componentFind<znCCheckBoxComponent>() != nullptr;
-                   if (pEntity.componentGet<znCTextEntryComponent>() != nullptr)
-                       controls.push_back(NAME_TYPED);
-                   if (control && !pEntity.nameGet().empty())
-                       controls.push_back(pEntity.nameGet());
-               });
+    ShippedGame::nodesVisit(znIDisplay::instanceGet(),
+                            [&](znCEntity& pEntity)
+                            {
+                                const bool control = pEntity.componentFind<znCButtonComponent>() != nullptr ||
+                                                     pEntity.componentFind<znCCheckBoxComponent>() != nullptr;
+                                if (pEntity.componentGet<znCTextEntryComponent>() != nullptr)
+                                    controls.push_back(NAME_TYPED);
+                                if (control && !pEntity.nameGet().empty())
+                                    controls.push_back(pEntity.nameGet());
+                            });
     return controls;
 }
 
@@ -87,23 +74,9 @@ void press(ShippedGame& pGame, const std::string& pControl)
 {
     if (pControl == NAME_TYPED)
     {
-        pGame.mPlatform.mInput.textQueue("Zoe");
-        s3eKeyboardUpdate();
-        return pGame.framesRun(2);
+        return pGame.type("Zoe");
     }
-    znCEntity* found = nullptr; // the one in front
-    nodesVisit(znIDisplay::instanceGet(),
-               [&](znCEntity& pEntity)
-               {
-                   if (pEntity.nameGet() == pControl)
-                       found = &pEntity;
-               });
-    ASSERT_NE(found, nullptr) << pControl;
-    const znPoint middle = found->worldPosGet();
-    EXPECT_TRUE(found->componentGet<znCSpriteComponent>()->hitTest(middle, false)) << pControl << " has a hole";
-    EXPECT_TRUE(middle.mX >= 683 - 512 && middle.mX < 683 + 512) << pControl << " is off a screen of 4:3";
-    pGame.tap(middle);
-    pGame.framesRun(3 * SECOND);
+    pGame.press(pControl);
 }
 
 void walk(ShippedGame& pGame, const Way& pWay)
@@ -111,12 +84,6 @@ void walk(ShippedGame& pGame, const Way& pWay)
     pWay.mStart(pGame);
     for (const std::string& control : pWay.mPresses)
         press(pGame, control);
-}
-
-void menuOpen(ShippedGame& pGame)
-{
-    znCHogCoreMain::instanceGet()->nextScreenSet(znCHogCoreMain::MAIN_MENU_FILE);
-    pGame.framesRun(2 * SECOND);
 }
 
 void playersMake(const char* pNames)
@@ -145,18 +112,18 @@ Way levelWay(const std::string& pLevel, const std::string& pOffer = "")
 TEST(shippedScreensTest, leadEverywhereAndBack)
 {
     std::vector<Way> ways = {
-        {[](ShippedGame& pGame) { menuOpen(pGame); }, {}}, // nobody has signed on yet
+        {[](ShippedGame& pGame) { pGame.menuOpen(); }, {}}, // nobody has signed on yet
         {[](ShippedGame& pGame)
          {
              playersMake("AB");
-             menuOpen(pGame);
+             pGame.menuOpen();
          },
          {}},
         {[](ShippedGame& pGame)
          {
              playersMake("ABCDE"); // as many as there can be, one of them with a game under way
              znCHogUserSavedData::instanceGet()->strSet(znCHogUserSavedData::CURRENT_LEVEL, "quay");
-             menuOpen(pGame);
+             pGame.menuOpen();
          },
          {}},
         levelWay("quay"),

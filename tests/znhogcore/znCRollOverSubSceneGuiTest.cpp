@@ -60,6 +60,7 @@ TEST_F(znCRollOverSubSceneGuiTest, namesWhatThePointerIsOn)
     EXPECT_EQ(captionAt(100, 100), "") << "its close-up isn't open";
     EXPECT_EQ(captionAt(-300, 0), "The crate -300,-70");
     tap(-300, 0);
+    EXPECT_EQ(captionGet(), "") << "the door's own";
     EXPECT_EQ(captionAt(10, 10), "") << "behind the close-up";
     EXPECT_EQ(captionAt(100, 100), "Cork 100,30");
     send(znCHogMessageDispatcher::CLOSE_TOP_SUB_SCENE);

@@ -30,6 +30,9 @@ public:
     // brush of the whole default picture.
     void texturePageLoad(const znCResourceName& pPage, bool pHitMap);
 
+    // All that brushGet finds in memory, by the names of their images.
+    const std::map<std::string, znCBrushPtr>& brushesGet() const { return mBrushes; }
+
     // Forgets all brushes, at a change of level. Who holds one keeps it.
     void brushesClear();
 

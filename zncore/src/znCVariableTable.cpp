@@ -11,6 +11,8 @@ namespace
 {
 constexpr std::string_view COMMENT_START = "--";
 
+znCVariableTable::AskedObserver sAskedObserver = nullptr;
+
 std::string lowerGet(const std::string& pText)
 {
     std::string lower = pText;
@@ -66,7 +68,15 @@ const char* terminatorFind(const char* pPos, bool pQuoted, const char* pEnd)
 const std::string* znCVariableTable::valueFind(const std::string& pKey) const
 {
     const auto entry = mEntries.find(upperCaseHas(pKey) ? lowerGet(pKey) : pKey);
-    return entry == mEntries.end() ? nullptr : &entry->second;
+    const std::string* value = entry == mEntries.end() ? nullptr : &entry->second;
+    if (sAskedObserver != nullptr)
+        sAskedObserver(*this, pKey, value);
+    return value;
+}
+
+void znCVariableTable::askedObserverSet(AskedObserver pObserver)
+{
+    sAskedObserver = pObserver;
 }
 
 std::string znCVariableTable::strGet(const std::string& pKey, const std::string& pDefault) const

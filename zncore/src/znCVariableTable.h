@@ -78,6 +78,11 @@ public:
     // pPos on it. At the end logs "Passed the end of the file. Did you miss a \" or a , ?".
     static void copyToTerminator(const char*& pPos, bool pQuoted, std::string& pOut, const char* pEnd);
 
+    // Told of every key that is asked for, so that tools can name the entries that nobody ever reads; pValue is null for
+    // a missing key. Null, as in the game: nobody is told.
+    using AskedObserver = void (*)(const znCVariableTable& pTable, const std::string& pKey, const std::string* pValue);
+    static void askedObserverSet(AskedObserver pObserver);
+
     // Keys in lower case.
     const std::map<std::string, std::string>& entriesGet() const { return mEntries; }
 

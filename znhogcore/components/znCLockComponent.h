@@ -33,6 +33,7 @@ public:
     // The key of pKeyEntity is one of this lock's and is still unused.
     bool keyNeeded(const znCEntity* pKeyEntity);
     std::vector<std::string> keysGet() const; // all that it needs to open, used or not
+    const std::string& taskNameGet() const { return mTaskName; } // empty if it ends none
     // Opens the lock without its keys; nothing happens if all are used already.
     void forceComplete();
 

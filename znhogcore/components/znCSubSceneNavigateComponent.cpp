@@ -1,7 +1,10 @@
 #include "znhogcore/components/znCSubSceneNavigateComponent.h"
 
+#include "znappcore/components/gui/znCRollOverGui.h"
 #include "znappcore/components/znCParticleEmitterComponent.h"
 #include "znappcore/src/znCEntity.h"
+#include "znappcore/src/znCGuiMessageDispatcher.h"
+#include "znappcore/znCEmptyMessageData.h"
 #include "zncore/debug/znIDebug.h"
 #include "zncore/znCResourceName.h"
 #include "zncore/znStr.h"
@@ -80,5 +83,8 @@ bool znCSubSceneNavigateComponent::inputEnabled()
 
 void znCSubSceneNavigateComponent::onTap()
 {
+    // The door's own caption would stay over the picture that opens.
+    znCGuiMessageDispatcher::instanceGet()->messageSend(znCRollOverGui::CLOSE_ROLL_OVER,
+                                                        znCEmptyMessageData::sharedGet());
     znCHogMessageDispatcher::instanceGet()->messageSend(znCHogMessageDispatcher::OPEN_SUB_SCENE, &mTargetIndex);
 }

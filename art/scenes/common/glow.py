@@ -24,6 +24,6 @@ def frame(strength, reach):
 
 
 strip = numpy.concatenate([frame(s, r) for s, r in zip(STRENGTHS, REACHES)], axis=1)
-for scene in ("quay", "cabin"):
+for scene in ("quay", "cabin", "lamproom"):
     target = pathlib.Path(__file__).resolve().parents[3] / "data/scenes" / scene / "lamp_glow.png"
     Image.fromarray(strip, "RGBA").save(target, optimize=True)

@@ -6,6 +6,7 @@
 #include "znappcore/src/znCEntity.h"
 #include "zncore/debug/znIDebug.h"
 #include "zncore/znCResourceName.h"
+#include "zncore/znStr.h"
 
 #include <cstdarg>
 #include <cstdio>
@@ -16,6 +17,8 @@ constexpr std::string_view INCLUDE = "include";
 constexpr std::string_view STYLE = "style";
 constexpr std::size_t STYLE_NAME_SHORTEST = 2;
 constexpr std::size_t WORD_SHOWN = 64; // bytes of a word that the log shows
+
+znCGuiFileReader::ElementObserver sElementObserver = nullptr;
 
 bool isComponentType(const znCGuiText::Token& pToken)
 {
@@ -200,6 +203,7 @@ znCEntity* znCGuiFileReader::elementRead(const Token& pType, znINode* pParent, b
                     mText.depthGet() - (mOpenedSet ? 1 : 0),
                     begin.mIndent,
                     false,
+                    {},
                     {}};
     mOpenedSet = false;
     if (pTopLevel && mModal && type != znCModalGuiComponent::TYPE)
@@ -295,7 +299,12 @@ void znCGuiFileReader::settingRead(Element& pElement, const Token& pKey)
         mText.tokenReturn();
         return;
     }
-    pElement.mSettings.strSet(std::string(pKey.mText), std::string(value.mText));
+    std::string key(pKey.mText);
+    pElement.mSettings.strSet(key, std::string(value.mText));
+    if (sElementObserver == nullptr)
+        return;
+    znStr::toLower(key);
+    pElement.mPlaces.insert_or_assign(key, pKey.mPlace);
 }
 
 // Drops the rest of an element but for its children. Blocks of unknown components and of styles go with it.
@@ -325,6 +334,13 @@ void znCGuiFileReader::settingsApply(const Element& pElement)
     if (znIDebug::reportCountGet() != reports)
         fault(pElement.mUse, "The faults above are those of %.*s %s.\n", sizeShown(pElement.mType),
               pElement.mType.data(), pElement.mEntity->nameGet().c_str());
+    if (sElementObserver != nullptr)
+        sElementObserver(pElement.mSettings, pElement.mType, pElement.mPlaces);
+}
+
+void znCGuiFileReader::elementObserverSet(ElementObserver pObserver)
+{
+    sElementObserver = pObserver;
 }
 
 void znCGuiFileReader::fault(const Place& pPlace, const char* pFormat, ...)

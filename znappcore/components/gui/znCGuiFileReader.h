@@ -27,6 +27,12 @@ public:
     static constexpr s32 ELEMENT_LIMIT = 10000; // in one file with all its includes
     static constexpr s32 FAULT_LIMIT = 100;     // a file with more is rubbish, and what is left of it is not read
 
+    using Places = std::map<std::string, znCGuiText::Place, std::less<>>;
+    // Told of every element behind the moment in which it got its settings, with the places where their keys (in lower
+    // case) were written. For tools; null, as in the game: nobody is told.
+    using ElementObserver = void (*)(const znCVariableTable& pSettings, std::string_view pType, const Places& pPlaces);
+    static void elementObserverSet(ElementObserver pObserver);
+
     // See guiCreateFromFile.
     znCGuiFileReader(znINode* pParent, bool pModal) : mParent(pParent), mModal(pModal) {}
 
@@ -49,6 +55,7 @@ private:
         s32 mIndent;        // of its first line there; -1: of no use
         bool mIndented;     // its lines are known to be indented more than that
         znCVariableTable mSettings;
+        Places mPlaces; // of the settings, if somebody is to be told
     };
 
     bool tokenNext(Token& pToken, bool pValue = false);

@@ -132,4 +132,14 @@ struct s3eSound
     void (*update)(s32 pDeltaMs);
 };
 
+// --- petrelAuthor: data that changes while the game runs; there only where the loader watches it --------------------
+constexpr u32 S3E_AUTHOR_HASH = s3eHash("petrelAuthor");
+
+struct s3eAuthor
+{
+    // Called between two frames, with null as system data, after files of the data folder have changed; null: nobody
+    // is told.
+    void (*changeCallbackSet)(s3eCallback pCallback, void* pUserData);
+};
+
 #endif

@@ -35,6 +35,13 @@ s32 currentGet()
 {
     return znCGlobalSavedData::instanceGet()->currentProfileGet();
 }
+
+// Whoever is current already is not read again: that would undo what the command line asked of the screen.
+void playerTake(s32 pIndex)
+{
+    if (pIndex != currentGet())
+        znCProfileManager::instanceGet()->profileSelect(pIndex);
+}
 } // namespace
 
 znCEntity* znCChoosePlayerGui::slotFind(s32 pIndex) const
@@ -69,7 +76,7 @@ void znCChoosePlayerGui::currentProfileSet(s32 pIndex)
     if (!listed)
         return;
     highlightMove(pIndex);
-    znCProfileManager::instanceGet()->profileSelect(pIndex);
+    playerTake(pIndex);
 }
 
 void znCChoosePlayerGui::highlightMove(s32 pIndex)
@@ -113,7 +120,7 @@ void znCChoosePlayerGui::deletionAsk()
 void znCChoosePlayerGui::choiceConfirm()
 {
     if (mSelected != znCGlobalSavedData::PROFILE_NONE)
-        znCProfileManager::instanceGet()->profileSelect(mSelected);
+        playerTake(mSelected);
     znCGuiMessageDispatcher::instanceGet()->messageSend(znCMainMenuGui::PROFILE_CHANGED,
                                                         znCEmptyMessageData::sharedGet());
     entityGet()->destroy();

@@ -14,6 +14,7 @@
 #include "znappcore/znIInputManager.h"
 #include "zncore/debug/znIDebug.h"
 #include "zncore/znCResourceName.h"
+#include "znhogcore/znIHogLevel.h"
 
 namespace
 {
@@ -78,6 +79,9 @@ bool znCOptionsGui::onButtonClicked(znCButtonComponent* pButton)
 {
     if (pButton->entityGet()->nameGet() != CLOSE)
         return false;
+    // Points that reach the disk without the finds that brought them could be won twice.
+    if (znIHogLevel::levelGet() != nullptr)
+        znIHogLevel::levelGet()->progressStore();
     znCProfileManager::instanceGet()->dataSave();
     entityGet()->destroy();
     return true;

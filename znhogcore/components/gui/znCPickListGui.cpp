@@ -140,6 +140,16 @@ s32 znCPickListGui::allEntitiesCount() const
     return typesCount(mPriorityTypes) + typesCount(mRandomTypes);
 }
 
+bool znCPickListGui::kindNamedGet(znCEntity& pEntity) const
+{
+    const auto named = [&pEntity](const Types& pTypes)
+    {
+        const std::vector<znCEntity*> found = pEntity.entitiesWithComponentsGet(pTypes);
+        return std::find(found.begin(), found.end(), &pEntity) != found.end();
+    };
+    return named(mPriorityTypes) || named(mRandomTypes);
+}
+
 s32 znCPickListGui::typesCount(const Types& pTypes) const
 {
     znIHogLevel* level = znIHogLevel::levelGet();

@@ -42,6 +42,13 @@ public:
 
     // How many items the list shows in all.
     void totalSet(s32 pTotal);
+    s32 totalGet() const { return mTotal; }
+    // How many items the level has for this list.
+    s32 allEntitiesCount() const;
+    // Whether the entity is of a kind that this list names.
+    bool kindNamedGet(znCEntity& pEntity) const;
+    // The slots, in number order; the list owns them.
+    const std::vector<znIPickListEntryGui*>& entriesGet() const { return mEntries; }
     // The slot that holds an item of that display text; null if there is none.
     znIPickListEntryGui* entryForTextGet(const std::string& pText) const;
     // Writes found / total into the text "itemCountText", if there is one.
@@ -58,7 +65,6 @@ private:
 
     void entriesStore();
     static Types typesFromText(const std::string& pText);
-    s32 allEntitiesCount() const;
     s32 typesCount(const Types& pTypes) const;
     static std::vector<znCEntity*> candidatesGet(const Types& pTypes);
     std::vector<znCEntity*> candidatesPick(const Types& pTypes) const;
