@@ -26,8 +26,8 @@ void playerSign(const GameRun& pRun)
 
 // Where the quay has the middle of its brass bell, of its telescope and of an empty stretch of pavement.
 constexpr char BELL[] = "460 229";
-constexpr char TELESCOPE[] = "129 457";
-constexpr char PAVEMENT[] = "560 636";
+constexpr char TELESCOPE[] = "442 510";
+constexpr char PAVEMENT[] = "980 636";
 
 // How many things of the saved quay have been found: those on their way to collected (2) and those that arrived (3).
 size_t collectedCountGet(const GameRun& pRun)
@@ -57,9 +57,9 @@ TEST(playTest, collectsWhatIsPressedAndNothingElse)
     const Case cases[] = {
         {"opaque", tap(BELL) + tap(TELESCOPE), 2},
         {"beside", tap(PAVEMENT), 0},
-        {"a transparent corner of the telescope", tap("60 431"), 0},
-        {"slid off", "down 460 229\nwait 50\nmove 560 636\nwait 50\nup 560 636\nwait 1500\n", 0},
-        {"slid off and back", "down 460 229\nwait 50\nmove 560 636\nwait 50\nmove 460 229\nup 460 229\nwait 1500\n", 1},
+        {"a transparent corner of the telescope", tap("500 497"), 0},
+        {"slid off", "down 460 229\nwait 50\nmove 980 636\nwait 50\nup 980 636\nwait 1500\n", 0},
+        {"slid off and back", "down 460 229\nwait 50\nmove 980 636\nwait 50\nmove 460 229\nup 460 229\nwait 1500\n", 1},
         {"twice on one place", tap(BELL) + tap(BELL), 1},
         {"with the right button", "down 460 229 1\nwait 50\nup 460 229 1\nwait 1500\n", 0},
     };
