@@ -19,7 +19,7 @@ TASKS = {
     "cabin": ("open_strong_box", "strongbox", 280),
     "galley": ("light_the_range", "fire", 420),
     "shop": ("wake_automaton", "automaton", 320),
-    "lamproom": ("light_the_lamp", "greatlamp", 640),
+    "lamproom": ("light_the_lamp", "greatlamp", 520),
 }
 FLARE, MARK = 160, 112
 
@@ -28,9 +28,9 @@ def flare():
     """Lamplight: white in the middle, amber where it ends."""
     _, _, r = radius_grid(FLARE)
     out = np.zeros((FLARE, FLARE, 4))
-    for channel, (centre, rim) in enumerate(((255, 255), (250, 176), (220, 60))):
-        out[..., channel] = centre + (rim - centre) * np.clip(r * 1.25, 0, 1) ** 0.7
-    out[..., 3] = 255 * np.exp(-(r / 0.46) ** 2) * np.clip((1 - r) / 0.25, 0, 1)
+    for channel, (centre, rim) in enumerate(((255, 255), (248, 158), (206, 34))):
+        out[..., channel] = centre + (rim - centre) * np.clip(r * 1.7, 0, 1) ** 0.6
+    out[..., 3] = 255 * np.exp(-(r / 0.42) ** 2) * np.clip((1 - r) / 0.25, 0, 1)
     pack(Image.fromarray(out.astype(np.uint8), "RGBA"), "common/flare.png", 0)
 
 
