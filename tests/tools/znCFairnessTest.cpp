@@ -75,3 +75,17 @@ TEST(znCFairnessTest, namesWhatIsUnfair)
     EXPECT_TRUE(std::filesystem::exists(start.string() + "-1.png"));
     EXPECT_FALSE(fairness.measure("nowhere"));
 }
+
+TEST(znCFairnessTest, whatShipsIsFair)
+{
+    const std::filesystem::path data = std::filesystem::path(PETREL_ROOT) / "data";
+    for (const auto& entry : std::filesystem::directory_iterator(data / "scenes"))
+    {
+        znCFairness fairness(data);
+        const std::string scene = entry.path().filename();
+        ASSERT_TRUE(fairness.measure(scene)) << scene;
+        for (const znCFairness::Object& object : fairness.objectsGet())
+            for (const std::string& warning : object.mWarnings)
+                ADD_FAILURE() << scene << "/" << object.mName << ": " << warning;
+    }
+}

@@ -1,10 +1,12 @@
 #include "znhogcore/components/znCDraggableKeyComponent.h"
 
+#include "znappcore/components/gui/znCRollOverGui.h"
 #include "znappcore/components/znCDragDropComponent.h"
 #include "znappcore/components/znCSpriteComponent.h"
 #include "znappcore/src/znCBrushManager.h"
 #include "znappcore/src/znCEntity.h"
 #include "znappcore/src/znCGuiMessageDispatcher.h"
+#include "znappcore/znCEmptyMessageData.h"
 #include "znappcore/znCPointerMessage.h"
 #include "znappcore/znIInputManager.h"
 #include "zncore/debug/znIDebug.h"
@@ -60,6 +62,9 @@ bool znCDraggableKeyComponent::messageProcess(const znCUniqueId& pType, void* pD
         if (message.mId != 0 || !startDragEventIfHit(message))
             return false;
         mDragging = true;
+        // From now on the key takes the pointer's moves, and a caption would stay where it is.
+        znCGuiMessageDispatcher::instanceGet()->messageSend(znCRollOverGui::CLOSE_ROLL_OVER,
+                                                            znCEmptyMessageData::sharedGet());
         return true;
     }
     if (pType == znCDragDropComponent::DRAG_END && mDragging)
