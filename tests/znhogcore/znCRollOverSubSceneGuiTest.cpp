@@ -19,7 +19,7 @@ protected:
         mPlatform.mFiles.fileSet("f.ttf", {std::istreambuf_iterator<char>(font), {}});
         mPlatform.mFiles.fileSet("strings.txt", "quayTitle = \"Quay\",\r\nPRE-oil-lampRO = \"A lamp without oil\",\r\n"
                                                 "SUB1-crateRO = \"The crate\",\r\nPCK-tinRO = \"Tin\",\r\n"
-                                                "PCK-corkRO = \"Cork\",\r\nINS-oilRO = \"Oil\",\r\n");
+                                                "PCK-corkRO = \"Cork\",\r\n");
         znCRoomTest::SetUp();
         panelSet("znCRollOverSubSceneGui { name = Caption modal = false maxStr = \"A lamp without oil\"\n"
                  "znCSpriteComponent { name = Back image = button.png }\n" +
@@ -71,10 +71,10 @@ TEST_F(znCRollOverSubSceneGuiTest, namesWhatThePointerIsOn)
     EXPECT_EQ(captionGet(), "");
 }
 
-TEST_F(znCRollOverSubSceneGuiTest, goesWhenAKeyIsTaken)
+TEST_F(znCRollOverSubSceneGuiTest, goesWhenAKeyIsTakenThatLiesOnADoor)
 {
-    openRoom("PRE-oil-lamp.png,0,0\nINS-oil.png,100,0\n");
-    EXPECT_EQ(captionAt(100, 0), "Oil 100,-70");
+    openRoom("PRE-oil-lamp.png,0,0\nSUB1-crate.png,100,0\nINS-oil.png,100,0\n", "PCK-cork.png,100,100\n");
+    EXPECT_EQ(captionAt(100, 0), "The crate 100,-70");
     press(100, 0);
     EXPECT_EQ(captionGet(), "");
     release(100, 0);
