@@ -190,6 +190,26 @@ TEST_F(menusTest, leavesALevelForTheMainMenu)
     EXPECT_EQ(user().strGet(znCHogUserSavedData::MAP_LEVEL), "");
 }
 
+// What the options write holds the points of a find already; without the find it could be won a second time.
+TEST_F(menusTest, storesTheFindsWithTheOptions)
+{
+    const auto slider = [](const char* pName)
+    {
+        return std::string("znCSliderComponent { name = ") + pName + " sliderImage = button.png range = 100 }\n";
+    };
+    znCProfileManager::instanceGet()->profileCreate("Wren");
+    imageSet("scenes/quay/hot-bell.png", 40, 40);
+    sceneSet("quay", "Background.png,0,0\nHOT-bell.png,0,0\n");
+    sceneOpen("quay");
+    const std::string before = user().levelStateGet("quay");
+    tap(0, 0);
+    guiOpen("znCOptionsGui {\n name = Menu\n" + slider("OptionsSfxSlider") + slider("OptionsMusicSlider") +
+            button("OptionsCloseButton") + "}\n");
+    EXPECT_EQ(user().levelStateGet("quay"), before) << "nothing else has stored it yet";
+    click("OptionsCloseButton");
+    EXPECT_NE(user().levelStateGet("quay"), before);
+}
+
 TEST_F(menusTest, showsTheHighScores)
 {
     programStop();
