@@ -3,7 +3,7 @@
 import sys
 
 from master import music
-from score import Score, Voicing, chords, clashes, line, nearest
+from score import Score, Voicing, chords, line, nearest, section
 
 BAR = 4
 INTRO = ("Am | F | Am/C | E", "R:4 | R:2 E5:1 D#5:1 | E5:3 R:1 | R:2 B4:1 G#4:1")
@@ -56,9 +56,7 @@ def main(font, work, out):
     score.part("clock", 0, 110, 88, 60, drums=True)
     start = 0
     for name, (harmony, tune) in (("intro", INTRO), ("a", A), ("b", B), ("a2", A)):
-        notes, length = line(tune, BAR)
-        for where, note in clashes(notes, chords(harmony, BAR)):
-            print(f"  {name}: beat {where} holds {note} outside its chord")
+        notes, length, _ = section(name, tune, harmony, BAR)
         accompany(score, start, harmony, name)
         if name == "b":
             score.melody("clarinet", start, notes, 84, STRONG)

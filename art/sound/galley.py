@@ -4,7 +4,7 @@ somebody is after the jam. Unit: a quarter, eighths long and short."""
 import sys
 
 from master import music
-from score import Score, Voicing, chords, clashes, line, nearest
+from score import Score, Voicing, chords, line, nearest, section
 
 BAR = 4
 INTRO = ("F | C7 | F | C7", "R:4 | R:2 C5:.5 D5:.5 E5:1 | R:4 | R:2 A4:.5 Bb4:.5 B4:1")
@@ -94,10 +94,7 @@ def main(font, work, out):
     score.part("spoons", 0, 104, 84, 40, drums=True)
     start = 0
     for name, (harmony, tune) in FORM:
-        notes, length = line(tune, BAR)
-        harmonies = chords(harmony, BAR)
-        for where, note in clashes(notes, harmonies):
-            print(f"  {name}: beat {where} holds {note} outside its chord")
+        notes, length, harmonies = section(name, tune, harmony, BAR)
         accompany(score, start, harmony, name)
         lead = {"b": ("clarinet", 86), "c": ("bassoon", 88), "bb": ("clarinet", 84)}.get(name, ("concertina", 84))
         score.melody(lead[0], start, swung(notes), lead[1], STRONG, 0.8 if name == "c" else 0.88)

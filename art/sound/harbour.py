@@ -3,7 +3,7 @@
 import sys
 
 from master import music
-from score import Score, Voicing, chords, clashes, line, nearest
+from score import Score, Voicing, chords, nearest, section
 
 BAR = 3
 INTRO = ("G | Em | C | D7", "R:3 | R:3 | R:3 | R:2 C5:1")
@@ -72,10 +72,7 @@ def main(font, work, out):
     score.part("shaker", 0, 116, 84, 60, drums=True)
     start = 0
     for name, (harmony, tune) in FORM:
-        notes, length = line(tune, BAR)
-        harmonies = chords(harmony, BAR)
-        for where, note in clashes(notes, harmonies):
-            print(f"  {name}: beat {where} holds {note} outside its chord")
+        notes, length, harmonies = section(name, tune, harmony, BAR)
         accompany(score, start, harmony, name in ("c", "c2"))
         lead = {"a": ("concertina", 84), "a2": ("fiddle", 86), "b": ("whistle", 84), "a2b": ("fiddle", 88),
                 "c": ("clarinet", 86), "c2": ("fiddle", 84), "bb": ("whistle", 88), "end": ("fiddle", 92),

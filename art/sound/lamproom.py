@@ -4,7 +4,7 @@ while its beam goes round. Unit: a quarter."""
 import sys
 
 from master import music
-from score import Score, Voicing, chords, clashes, line, nearest
+from score import Score, Voicing, chords, line, nearest, section
 
 BAR = 4
 INTRO = ("Cm | Cm | Ab/C | Cm", "R:4 | R:2 G2:1 C3:1 | Eb3:3 D3:1 | C3:2 G2:2")
@@ -72,9 +72,7 @@ def main(font, work, out):
     score.part("drums", 47, 126, 64, 74)
     start = 0
     for name, (harmony, tune) in FORM:
-        notes, length = line(tune, BAR)
-        for where, note in clashes(notes, chords(harmony, BAR)):
-            print(f"  {name}: beat {where} holds {note} outside its chord")
+        notes, length, _ = section(name, tune, harmony, BAR)
         accompany(score, start, harmony, name)
         if name in ("intro", "a"):
             score.melody("cello", start, notes, 88, STRONG, 1.0)

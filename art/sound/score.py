@@ -71,6 +71,15 @@ def clashes(melody, harmony):
     return found
 
 
+def section(name, tune, harmony, bar_beats):
+    """The tune's notes, its length in beats and its chords; names on standard output what is held against them."""
+    notes, length = line(tune, bar_beats)
+    harmonies = chords(harmony, bar_beats)
+    for where, note in clashes(notes, harmonies):
+        print(f"  {name}: beat {where} holds {note} outside its chord")
+    return notes, length, harmonies
+
+
 class Voicing:
     """Three voices that move as little as they can from chord to chord."""
 

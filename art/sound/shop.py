@@ -4,7 +4,7 @@ back room a clarinet asks what the things remember. Unit: a quarter."""
 import sys
 
 from master import music
-from score import Score, Voicing, chords, clashes, line, nearest
+from score import Score, Voicing, chords, nearest, section
 
 BAR = 5
 INTRO = ("Gm | Eb | Gm | D7",
@@ -80,9 +80,7 @@ def main(font, work, out):
     score.tempo(3 * BAR, 122)
     start = 0
     for name, (harmony, tune) in FORM:
-        notes, length = line(tune, BAR)
-        for where, note in clashes(notes, chords(harmony, BAR)):
-            print(f"  {name}: beat {where} holds {note} outside its chord")
+        notes, length, _ = section(name, tune, harmony, BAR)
         accompany(score, start, harmony, name)
         if name in ("intro", "a", "coda"):
             score.melody("box", start, notes, 84, STRONG, 1.4, loose=0.005)

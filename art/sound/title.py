@@ -3,7 +3,7 @@
 import sys
 
 from master import music
-from score import Score, Voicing, chords, clashes, line, nearest
+from score import Score, Voicing, chords, line, nearest, section
 
 BAR = 6
 INTRO = ("Dm | Dm/C | Bb | Asus A", "R:6 | R:3 A4:2 D5:1 | F5:5 E5:1 | E5:3 R:2 A4:1")
@@ -57,9 +57,7 @@ def main(font, work, out):
     score.part("drums", 47, 120, 64, 70)
     start = 0
     for name, (harmony, tune) in (("intro", INTRO), ("a", A), ("a2", A2), ("b", B), ("a3", A3), ("coda", CODA)):
-        notes, length = line(tune, BAR)
-        for where, note in clashes(notes, chords(harmony, BAR)):
-            print(f"  {name}: beat {where} holds {note} outside its chord")
+        notes, length, _ = section(name, tune, harmony, BAR)
         accompany(score, start, harmony, name in ("intro", "a", "coda"), {"a2": 0.6, "b": 0.8, "a3": 1.3}.get(name, 0))
         if name in ("intro", "a", "coda"):
             score.melody("cor", start, notes, 84 if name == "a" else 68, STRONG)

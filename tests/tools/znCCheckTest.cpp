@@ -206,6 +206,23 @@ TEST(znCCheckTest, whatShipsHasNoFaults)
     EXPECT_EQ(listGet(check.run()), "");
 }
 
+TEST(znCNewSceneTest, leavesAllAsItWasOnADiskThatTakesNothingMore)
+{
+    for (const char* inTheWay : {"strings.xml.new", "particles/attic_motes.txt.new"})
+    {
+        AuthorData data;
+        const std::filesystem::path folder = data.folderGet();
+        std::filesystem::create_directories(folder / inTheWay / "full");
+        const std::string strings = data.textGet("strings.xml");
+        znCNewScene scene(folder);
+        EXPECT_FALSE(scene.make("attic")) << inTheWay;
+        EXPECT_TRUE(scene.filesGet().empty());
+        EXPECT_FALSE(std::filesystem::exists(folder / "scenes/attic"));
+        EXPECT_FALSE(std::filesystem::exists(folder / "particles/attic_motes.txt"));
+        EXPECT_EQ(data.textGet("strings.xml"), strings);
+    }
+}
+
 TEST(znCCheckTest, aNewSceneHasNoFaultButThatNothingLeadsToIt)
 {
     AuthorData data;

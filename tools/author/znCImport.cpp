@@ -2,6 +2,7 @@
 
 #include "tools/author/znCNewScene.h"
 #include "tools/author/znNText.h"
+#include "tools/author/znNWholeFile.h"
 #include "znhogcore/components/znCHogLevelLoaderComponent.h"
 #include "znhogcore/components/znCNameComponent.h"
 #include "znhogcore/src/znCHogEntityFactory.h"
@@ -9,7 +10,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <fstream>
 
 namespace
 {
@@ -20,7 +20,6 @@ constexpr char ANIMATION[] = ".xml";
 constexpr char BACKGROUND[] = "Background";
 constexpr char COMMON_MARK[] = "CMN-";
 constexpr char PLAIN[] = "MASK-";
-constexpr char UNFINISHED[] = ".new";
 constexpr char LETTERS[] = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_-+.";
 constexpr s32 ITEMS_MOST = 12;
 
@@ -229,14 +228,9 @@ bool znCImport::filesWrite()
     const bool isNew = fs::create_directories(mData / mFolder, error);
     bool written = !error;
     for (const auto& [name, picture] : mPictures)
-        written = written && znNPng::write((mData / (name + UNFINISHED)), picture);
+        written = written && znNWholeFile::pictureDraft(mData / name, picture);
     for (const auto& [name, text] : mTexts)
-    {
-        std::ofstream file(mData / (name + UNFINISHED), std::ios::binary);
-        file << text;
-        file.close();
-        written = written && file;
-    }
+        written = written && znNWholeFile::textDraft(mData / name, text);
     for (const auto& [name, picture] : mPictures)
         mFiles.push_back(name);
     const std::string list = mFolder + znCHogLevelLoaderComponent::COORDS_FILE;
@@ -246,9 +240,9 @@ bool znCImport::filesWrite()
     mFiles.push_back(list);
     for (const std::string& file : mFiles)
         if (written)
-            fs::rename(mData / (file + UNFINISHED), mData / file, error), written = !error;
+            written = znNWholeFile::draftTake(mData / file);
         else
-            fs::remove(mData / (file + UNFINISHED), error);
+            znNWholeFile::draftDrop(mData / file);
     if (!written)
     {
         std::fprintf(stderr, "%s can't be written\n", (mData / mFolder).c_str());

@@ -1,6 +1,7 @@
 #include "tools/author/znCNewScene.h"
 
 #include "tools/author/znNPng.h"
+#include "tools/author/znNWholeFile.h"
 
 #include <algorithm>
 #include <array>
@@ -189,7 +190,12 @@ bool znCNewScene::make(const std::string& pName)
             "numHogItems = \"6\",\n"
             "-- What follows. Let another scene's ACT1NextLev lead here.\n"
             "ACT1NextLev = \"gui/mainMenu/mainMenu.txt\",\n");
-    return titleAdd(pName);
+    if (mWritten && titleAdd(pName))
+        return true;
+    fs::remove_all(folder, error);
+    fs::remove(mData / "particles" / (motes + ".txt"), error);
+    mFiles.clear();
+    return false;
 }
 
 bool znCNewScene::titleAdd(const std::string& pName)
@@ -203,7 +209,7 @@ void znCNewScene::picturesMake(const fs::path& pFolder)
 {
     const auto write = [&](const std::string& pName, const znSPicture& pPicture)
     {
-        znNPng::write(pFolder / lowerGet(pName), pPicture);
+        mWritten = mWritten && znNWholeFile::pictureWrite(pFolder / lowerGet(pName), pPicture);
         mFiles.push_back(pFolder / lowerGet(pName));
     };
     write("BackgroundRoom.png", roomMake(CANVAS_WIDTH, CANVAS_HEIGHT, {128, 150, 158}, {150, 128, 104}));
@@ -219,7 +225,7 @@ void znCNewScene::picturesMake(const fs::path& pFolder)
 
 void znCNewScene::textWrite(const fs::path& pFile, const std::string& pText)
 {
-    std::ofstream(pFile, std::ios::binary) << pText;
+    mWritten = mWritten && znNWholeFile::textWrite(pFile, pText);
     mFiles.push_back(pFile);
 }
 
@@ -242,5 +248,5 @@ bool znCNewScene::stringAdd(const std::string& pKey, const std::string& pText)
     else
         text += pKey + " = \"" + pText + "\",\r\n";
     textWrite(file, text);
-    return true;
+    return mWritten;
 }

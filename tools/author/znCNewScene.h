@@ -14,10 +14,10 @@ class znCNewScene
 public:
     explicit znCNewScene(const std::filesystem::path& pData) : mData(pData) {}
 
-    // pName: small letters, digits and "_". False with a sentence on standard error if that can't be, or if there is
-    // such a scene; nothing is written then.
+    // pName: small letters, digits and "_". False with a sentence on standard error if that can't be, if there is
+    // such a scene or if a file can't be written; all is as it was then.
     bool make(const std::string& pName);
-    // The scene's name as its title in the strings, which every scene needs.
+    // The scene's name as its title in the strings, which every scene needs. False, likewise, if they can't be written.
     bool titleAdd(const std::string& pName);
     static bool isName(const std::string& pName);
     // All that was written, folders apart.
@@ -31,6 +31,7 @@ private:
 
     std::filesystem::path mData;
     std::vector<std::filesystem::path> mFiles;
+    bool mWritten = true; // all so far
 };
 
 #endif

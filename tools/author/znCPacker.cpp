@@ -2,6 +2,7 @@
 
 #include "tools/author/znNPageLayout.h"
 #include "tools/author/znNText.h"
+#include "tools/author/znNWholeFile.h"
 #include "znappcore/components/znCSpriteComponent.h"
 #include "znappcore/src/znCBrush.h"
 #include "znappcore/src/znCBrushManager.h"
@@ -11,7 +12,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <fstream>
 #include <set>
 
 namespace
@@ -23,8 +23,7 @@ constexpr char LIST[] = ".txt";
 constexpr char PAGE[] = "texturepage";
 constexpr char BACKGROUND_MARK[] = "background";
 constexpr char LINE_END[] = "\r\n";
-constexpr char UNFINISHED[] = ".new"; // behind the name of a file until it stands whole
-constexpr s32 FRAMES = 90;            // until lists have filled their slots
+constexpr s32 FRAMES = 90; // until lists have filled their slots
 
 bool refused(const std::string& pWhy)
 {
@@ -38,35 +37,6 @@ void paint(const znSPicture& pPicture, s32 pX, s32 pY, znSPicture& pPage)
         for (s32 x = -znCPacker::EDGE; x < pPicture.mWidth + znCPacker::EDGE; ++x)
             std::copy_n(pPicture.at(std::clamp(x, 0, pPicture.mWidth - 1), std::clamp(y, 0, pPicture.mHeight - 1)), 4,
                         pPage.at(pX + x, pY + y));
-}
-
-bool pictureWrite(const fs::path& pFile, const znSPicture& pPicture)
-{
-    const fs::path unfinished = pFile.string() + UNFINISHED;
-    std::error_code error;
-    if (znNPng::write(unfinished, pPicture))
-        fs::rename(unfinished, pFile, error);
-    else
-        error = std::make_error_code(std::errc::io_error);
-    if (!error)
-        return true;
-    fs::remove(unfinished, error);
-    return refused(pFile.string() + " can't be written");
-}
-
-bool textWrite(const fs::path& pFile, const std::string& pText)
-{
-    const fs::path unfinished = pFile.string() + UNFINISHED;
-    std::ofstream file(unfinished, std::ios::binary);
-    file << pText;
-    file.close();
-    std::error_code error;
-    if (file)
-        fs::rename(unfinished, pFile, error);
-    if (file && !error)
-        return true;
-    fs::remove(unfinished, error);
-    return refused(pFile.string() + " can't be written");
 }
 } // namespace
 
@@ -226,7 +196,8 @@ bool znCPacker::pageWrite(const Items& pItems)
     }
     if (mGame->fileExists(name + PICTURE))
         return refused(name + PICTURE + " is there without its list; rename or remove it");
-    if (!pictureWrite(mData / (name + PICTURE), page) || !textWrite(mData / (name + LIST), list))
+    if (!znNWholeFile::pictureWrite(mData / (name + PICTURE), page) ||
+        !znNWholeFile::textWrite(mData / (name + LIST), list))
         return false;
     mLists.push_back(name + LIST);
     mPages.push_back(name + PICTURE);
@@ -254,7 +225,7 @@ bool znCPacker::unpack(const std::string& pScene, bool pLooseWins)
     {
         if (mGame->filesGet().count(item.mFile) != 0)
             continue;
-        if (!pictureWrite(mData / item.mFile, item.mPicture))
+        if (!znNWholeFile::pictureWrite(mData / item.mFile, item.mPicture))
             return false;
         mMoved.push_back(item.mFile);
     }

@@ -2,8 +2,8 @@
 #define ZNHOGCORE_COMPONENTS_GUI_ZNCPLAYERSLOTGUI_H
 
 // One line of the list of players. The number behind "ChoosePlayerProfile" in its entity's name says whose it is; the
-// text "PlayerSlotNameText" shows the name. A press
-// on it sends znCGuiMessageDispatcher::PLAYER_SLOT_SELECTED. A line without a player is hidden.
+// text "PlayerSlotNameText" shows the name. A press on it sends znCGuiMessageDispatcher::PLAYER_SLOT_SELECTED. A line
+// without a player is hidden.
 
 #include "znappcore/components/gui/znIMessageListenerGuiComponent.h"
 #include "znappcore/znCUniqueId.h"
